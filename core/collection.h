@@ -1,0 +1,206 @@
+#pragma once
+
+#include "core/failure.h"
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+/// An ordered list of shared records that can also be reached by a text key. The order is that of insertion.
+/// Finding by key and by 1-based position takes constant time, and so does removing by key: the gap is closed
+/// once, at the next walk.
+template <class T> class Collection {
+    struct Slot {
+        std::shared_ptr<T> item; // empty: removed, the gap not yet closed
+        std::string key;
+        bool keyed;
+    };
+
+  public:
+    using Item = std::shared_ptr<T>;
+
+    class Iterator {
+      public:
+        explicit Iterator(const Slot* slot) : slot(slot) {}
+        const Item& operator*() const { return slot->item; }
+        Iterator& operator++() {
+            ++slot;
+            return *this;
+        }
+        bool operator!=(const Iterator& other) const { return slot != other.slot; }
+
+      private:
+        const Slot* slot;
+    };
+
+    std::size_t count() const { return slots.size() - gaps; }
+    bool empty() const { return count() == 0; }
+
+    /// A walk in order. The collection must not change meanwhile: a walk that changes it goes over `items()`.
+    Iterator begin() const {
+        close_gaps();
+        return Iterator(slots.data());
+    }
+    Iterator end() const { return Iterator(slots.data() + slots.size()); }
+
+    /// The records as they stand now.
+    std::vector<Item> items() const {
+        std::vector<Item> all;
+        all.reserve(count());
+        for (const Item& item : *this) all.push_back(item);
+        return all;
+    }
+
+    /// Appends a record without a key.
+    void add(Item item) { slots.push_back({std::move(item), {}, false}); }
+
+    /// Appends a record under a key. Fails with 457 when the key is present.
+    void add(Item item, std::string key) {
+        if (!add_new(std::move(item), std::move(key))) throw Failure{failure::key_present};
+    }
+
+    /// Like `add`, but a present key is told by the answer: false, and nothing changes.
+    bool add_new(Item item, std::string key) {
+        if (slot_of(key) != none) return false;
+        slots.push_back({std::move(item), std::move(key), true});
+        if (indexed())
+            index.emplace(slots.back().key, slots.size() - 1);
+        else if (slots.size() > largest_without_index)
+            build_index();
+        return true;
+    }
+
+    /// Puts a record without a key behind the 1-based position; 0 puts it first. Fails with 9.
+    void insert_after(std::size_t position, Item item) {
+        close_gaps();
+        if (position > slots.size()) throw Failure{failure::no_such_position};
+        slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(position), Slot{std::move(item), {}, false});
+        if (indexed()) build_index();
+    }
+
+    bool contains(std::string_view key) const { return slot_of(key) != none; }
+
+    /// The record under the key, or nothing.
+    Item find(std::string_view key) const {
+        const std::size_t slot = slot_of(key);
+        return slot == none ? nullptr : slots[slot].item;
+    }
+
+    /// The record under the key. Fails with 5 when the key is absent.
+    const Item& item(std::string_view key) const { return slots[present(key)].item; }
+
+    /// The record at the 1-based position. Fails with 9 when there is none.
+    const Item& at(std::size_t position) const {
+        close_gaps();
+        if (position < 1 || position > slots.size()) throw Failure{failure::no_such_position};
+        return slots[position - 1].item;
+    }
+
+    /// Fails with 5 when the key is absent.
+    void remove(std::string_view key) {
+        const std::size_t slot = present(key);
+        if (indexed()) index.erase(index.find(key)); // by iterator: erasing by view needs a newer standard
+        slots[slot] = {};
+        ++gaps;
+        if (empty()) clear();
+    }
+
+    /// Fails with 9 when there is no such 1-based position.
+    void remove_at(std::size_t position) {
+        close_gaps();
+        if (position < 1 || position > slots.size()) throw Failure{failure::no_such_position};
+        slots.erase(slots.begin() + static_cast<std::ptrdiff_t>(position - 1));
+        if (indexed()) build_index();
+    }
+
+    void clear() { *this = {}; }
+    void reserve(std::size_t count) { slots.reserve(count); }
+
+  private:
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>{}(key); }
+    };
+
+    static constexpr std::size_t none = static_cast<std::size_t>(-1);
+    // Most collections belong to one unit and hold a handful of records: comparing so few keys is quicker than
+    // hashing one, and thousands of units then carry no hash table.
+    static constexpr std::size_t largest_without_index = 8;
+
+    bool indexed() const { return !index.empty(); }
+
+    std::size_t slot_of(std::string_view key) const {
+        if (indexed()) {
+            const auto found = index.find(key);
+            return found == index.end() ? none : found->second;
+        }
+        for (std::size_t i = 0; i < slots.size(); ++i)
+            if (slots[i].keyed && slots[i].key == key) return i;
+        return none;
+    }
+
+    std::size_t present(std::string_view key) const {
+        const std::size_t slot = slot_of(key);
+        if (slot == none) throw Failure{failure::invalid_call};
+        return slot;
+    }
+
+    void build_index() const {
+        index.clear();
+        for (std::size_t i = 0; i < slots.size(); ++i)
+            if (slots[i].keyed) index.emplace(slots[i].key, i);
+    }
+
+    void close_gaps() const {
+        if (gaps == 0) return;
+        std::erase_if(slots, [](const Slot& slot) { return !slot.item; });
+        gaps = 0;
+        if (slots.size() > largest_without_index)
+            build_index();
+        else
+            index.clear();
+    }
+
+    // Closing gaps changes nothing that a caller can see, so a reader may do it.
+    mutable std::vector<Slot> slots;
+    mutable std::unordered_map<std::string, std::size_t, KeyHash, std::equal_to<>> index;
+    mutable std::size_t gaps = 0;
+};
+
+/// A place that holds a collection: empty at first use, also after it was dropped. A copy of the place holds
+/// the same collection, so that a dialog can work on a unit's own records.
+template <class T> class CollectionRef {
+  public:
+    CollectionRef() = default;
+    CollectionRef(const CollectionRef& other) : held(other.made()) {}
+    CollectionRef(CollectionRef&& other) noexcept = default;
+    CollectionRef& operator=(const CollectionRef& other) {
+        held = other.made();
+        return *this;
+    }
+    CollectionRef& operator=(CollectionRef&& other) noexcept = default;
+    ~CollectionRef() = default;
+
+    Collection<T>* operator->() const { return made().get(); }
+    Collection<T>& operator*() const { return *made(); }
+    auto begin() const { return made()->begin(); }
+    auto end() const { return made()->end(); }
+
+    /// Lets go of the collection; the next use finds a new, empty one.
+    void drop() { held.reset(); }
+    bool empty() const { return !held || held->empty(); }
+    std::size_t count() const { return held ? held->count() : 0; }
+
+  private:
+    const std::shared_ptr<Collection<T>>& made() const {
+        if (!held) held = std::make_shared<Collection<T>>();
+        return held;
+    }
+
+    mutable std::shared_ptr<Collection<T>> held;
+};

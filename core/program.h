@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/campaign.h"
+#include "core/drawing_list.h"
+#include "core/form.h"
+#include "core/frmMain.h"
+#include "core/platform.h"
+
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+
+struct Program;
+
+/// What the layers draw on. The overview's and the rulers' pens are their own.
+struct Painting {
+    DrawingList map;
+    DrawingList hcoord;
+    DrawingList vcoord;
+    DrawingList overview;
+};
+
+/// One layer of the map: it is painted when its gate is open, above all layers before it.
+struct PaintLayer {
+    int number;
+    bool (*gate)(const Program& program);
+    void (*paint)(Program& program, Painting& painting);
+};
+
+/// The one program of the process: its campaign, its main window and its way to the outside.
+struct Program {
+    Program(Platform& platform, std::span<const PaintLayer> paint_order)
+        : platform(platform), paint_order(paint_order) {}
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// The form of this type, loaded if need be.
+    template <class F> F& form() {
+        std::unique_ptr<Form>& held = forms[F::form_name];
+        if (!held || !held->loaded) held = std::make_unique<F>(*this);
+        return static_cast<F&>(*held);
+    }
+
+    /// Unloads the form of this name if it is loaded.
+    void unload(const std::string& name) {
+        const auto held = forms.find(name);
+        if (held != forms.end() && held->second->loaded) held->second->unload();
+    }
+
+    Platform& platform;
+    std::span<const PaintLayer> paint_order;
+    Campaign campaign;
+    frmMain main;
+    Painting painting; // what the last refresh drew
+    std::map<std::string, std::unique_ptr<Form>> forms;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/failure.h"
+#include "core/program.h"
+
+#include <new>
+#include <string>
+#include <utility>
+
+/// Runs a command or a part of it and answers the number of its failure, 0 when there was none. Too little
+/// memory is a failure like any other.
+template <class Body> int failure_of(Body&& body) {
+    try {
+        std::forward<Body>(body)();
+    } catch (const Failure& failed) {
+        return failed.number;
+    } catch (const std::bad_alloc&) {
+        return failure::out_of_memory;
+    }
+    return 0;
+}
+
+/// Shows "Error ", the number and the ending.
+inline void show_failure(Program& program, int number, const std::string& ending, Icon icon = Icon::none) {
+    program.platform.message({"Error " + std::to_string(number) + ending, icon});
+}
+
+/// The trap of a command: a failure ends the body, its message is shown, and what was done so far stays.
+template <class Body>
+void trap(Program& program, const std::string& ending, Body&& body, Icon icon = Icon::none) {
+    const int number = failure_of(std::forward<Body>(body));
+    if (number != 0) show_failure(program, number, ending, icon);
+}

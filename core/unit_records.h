@@ -1,0 +1,88 @@
+#pragma once
+
+#include "core/collection.h"
+
+#include <cstdint>
+#include <string>
+
+// The records of a unit and of what it owns. Map positions are pixels of the map picture, x to the right, y
+// down, 150 to the kilometre; colours are 0x00BBGGRR. Texts are single bytes, Windows-1252.
+
+/// A vertex. In lines and polygons map pixels; in areas of operation offsets from the unit.
+struct oCoordinates {
+    std::int32_t x_cor = 0;
+    std::int32_t y_cor = 0;
+};
+
+/// A reference to a subordinate unit. The name is a copy and may be stale.
+struct oChildren {
+    std::string ID;
+    std::string name;
+};
+
+/// A holding of one kind of force element by a unit.
+struct oUnitForceElements {
+    std::string ID;
+    std::int16_t Index = 0; // catalogue number, 999 for a free-text element
+    std::int16_t quantity = 0;
+    std::string experience;
+    std::int16_t ammo = 0;
+    std::int16_t FireFanAngle = 0; // degrees, 0 north, clockwise
+    std::int16_t KIA = 0;
+    std::int16_t MIA = 0;
+    std::string free_text;
+};
+
+/// Holdings of a unit and its subordinates added up; never stored.
+struct oAccuUFE : oUnitForceElements {};
+
+/// One leg of a unit's movement.
+struct oWaypoint {
+    std::string ID;
+    double speed = 0; // km/h
+    std::string start_year;
+    std::string start_month; // the word
+    std::string start_day;
+    std::string start_hour;
+    std::string start_minute;
+    std::string end_year;
+    std::string end_month;
+    std::string end_day;
+    std::string end_hour;
+    std::string end_minute;
+    std::string notes;
+    float X = 0;
+    float Y = 0;
+    std::int16_t range = 0; // metres
+};
+
+/// One unit of either side.
+struct oUnits {
+    std::string ID;
+    std::string unittype;
+    std::string symbol; // picture path below the program directory, with backslashes
+    std::int32_t color = 0;
+    std::int16_t xcoord = 0; // the centre
+    std::int16_t ycoord = 0;
+    std::string name;
+    std::string echelon;
+    std::string nationality;
+    std::string affiliation; // "Allied" or "Axis"
+    std::string player_name;
+    std::string player_email;
+    std::string gm_name;
+    std::string gm_email;
+    std::string parent_ID;
+    std::string parent_name;
+    CollectionRef<oChildren> children;
+    CollectionRef<oUnitForceElements> force_elements;
+    std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
+    CollectionRef<oCoordinates> area_of_opeartion;
+    std::int16_t supply_req = 0; // ton/day
+    std::int16_t current_supply = 0;
+    std::string op_status;
+    std::string fitness;
+    std::string order_id; // despite its name the unit class
+    CollectionRef<oWaypoint> waypoints;
+    std::int16_t state = 0; // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
+};

@@ -1,0 +1,34 @@
+#include "mapview/hit_target.h"
+
+namespace {
+
+bool holds(const MapControl& control, double x, double y) {
+    return control.visible && control.container == Container::map && x >= control.left &&
+           x < control.left + control.width && y >= control.top && y < control.top + control.height;
+}
+
+struct Search {
+    HitTarget found;
+    long depth = -1;
+
+    template <class Control>
+    void over(const ControlArray<Control>& controls, TargetKind kind, double x, double y) {
+        for (int i = 1; i <= controls.upper(); ++i) {
+            const MapControl& control = controls(i);
+            if (control.depth <= depth || !holds(control, x, y)) continue;
+            found = {kind, i};
+            depth = control.depth;
+        }
+    }
+};
+
+} // namespace
+
+HitTarget hit_target(const Program& program, double x, double y) {
+    const RecordControls& controls = program.main;
+    Search search;
+    search.over(controls.imgUnit, TargetKind::unit, x, y);
+    search.over(controls.lblUser, TargetKind::label, x, y);
+    search.over(controls.lblShapeLabel, TargetKind::shape_label, x, y);
+    return search.found;
+}

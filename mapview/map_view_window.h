@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/program.h"
+#include "widgets/event_runner.h"
+#include "widgets/sprites.h"
+
+#include <QWidget>
+
+/// `picMapwindow`: the part of the map that is in view, with all that stands over it.
+class MapView : public QWidget {
+  public:
+    MapView(Program& program, const Sprites& sprites, EventRunner& events, QWidget* parent);
+
+    /// The view as a picture would show it, for whoever has a painter of its own.
+    void paint_view(QPainter& painter, const QRect& exposed) const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    QPointF origin() const; // of the map, in pixels of this window
+
+    Program& program;
+    const Sprites& sprites;
+    EventRunner& events;
+};

@@ -1,0 +1,35 @@
+#include "mapview/painting.h"
+
+#include "core/trap.h"
+
+#include <utility>
+
+namespace {
+
+/// Empty surfaces whose pens stand as they were left.
+Painting next_painting(const Painting& last) {
+    Painting next;
+    next.map.pen = last.map.pen;
+    next.hcoord.pen = last.hcoord.pen;
+    next.vcoord.pen = last.vcoord.pen;
+    next.overview.pen = last.overview.pen;
+    return next;
+}
+
+} // namespace
+
+void picMap_Paint(Program& program) {
+    Painting painting = next_painting(program.painting);
+    const int number = failure_of([&] {
+        for (const PaintLayer& layer : program.paint_order)
+            if (layer.gate(program)) layer.paint(program, painting);
+    });
+    program.painting = std::move(painting);
+    if (number != 0) show_failure(program, number, " when updating the map.");
+}
+
+void paint_if_marked(Program& program) {
+    if (!program.main.picMap.marked) return;
+    program.main.picMap.marked = false;
+    picMap_Paint(program);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "core/program.h"
+
+/// Paints every layer whose gate is open, from bottom to top, with the pens as the last paint left them. A
+/// failure ends the paint and is told once, after it; the layers behind it are missing.
+void picMap_Paint(Program& program);
+
+/// Paints when a refresh is wanted; all refreshes of one event are one paint.
+void paint_if_marked(Program& program);

@@ -1,0 +1,231 @@
+#include "platform/qt_platform.h"
+
+#include "core/failure.h"
+#include "mapview/painting.h"
+#include "platform/form_windows.h"
+#include "widgets/colours_qt.h"
+#include "widgets/fonts_qt.h"
+#include "widgets/map_image.h"
+#include "widgets/text.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QRandomGenerator>
+#include <QScreen>
+
+#include <cstring>
+
+namespace {
+
+QMessageBox::Icon to_qt_icon(Icon icon) {
+    switch (icon) {
+    case Icon::warning: return QMessageBox::Warning;
+    case Icon::question: return QMessageBox::Question;
+    case Icon::information: return QMessageBox::Information;
+    case Icon::none: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons to_qt_buttons(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::yes_no: return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::yes_no_cancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::ok: break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton to_qt_button(Answer answer) {
+    switch (answer) {
+    case Answer::yes: return QMessageBox::Yes;
+    case Answer::no: return QMessageBox::No;
+    case Answer::cancel: return QMessageBox::Cancel;
+    case Answer::ok: break;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer to_answer(int button) {
+    switch (button) {
+    case QMessageBox::Yes: return Answer::yes;
+    case QMessageBox::No: return Answer::no;
+    case QMessageBox::Cancel: return Answer::cancel;
+    default: return Answer::ok;
+    }
+}
+
+[[noreturn]] void cancelled() { throw Failure{failure::cancelled}; }
+
+/// The pointer of a dialog is not the hourglass, also when the dialog asks in the middle of a long command.
+class NormalPointer {
+  public:
+    NormalPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+    NormalPointer(const NormalPointer&) = delete;
+    NormalPointer& operator=(const NormalPointer&) = delete;
+    ~NormalPointer() { QApplication::restoreOverrideCursor(); }
+};
+
+} // namespace
+
+void QtPlatform::serve(Program& shown) {
+    program = &shown;
+    events.after_event = [this] {
+        if (!main) return;
+        paint_if_marked(*program);
+        main->bring_in_step();
+    };
+    events.untrapped_failure = [this](int number) {
+        message({"Error " + std::to_string(number) + ".", Icon::warning});
+        end_process(1);
+    };
+}
+
+QWidget* QtPlatform::parent_window() const {
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (modal != nullptr) return modal;
+    return main && main->isVisible() ? main.get() : nullptr;
+}
+
+Answer QtPlatform::message(const MessageBox& box) {
+    const NormalPointer pointer;
+    QMessageBox dialog(to_qt_icon(box.icon), to_qt(box.title), to_qt(box.text), to_qt_buttons(box.buttons),
+                       parent_window());
+    dialog.setTextFormat(Qt::PlainText);
+    if (box.buttons == Buttons::yes_no) dialog.setEscapeButton(QMessageBox::No);
+    if (box.buttons != Buttons::ok) dialog.setDefaultButton(to_qt_button(box.default_button));
+    return to_answer(dialog.exec());
+}
+
+std::optional<std::string> QtPlatform::input_box(const InputBox& box) {
+    const NormalPointer pointer;
+    bool accepted = false;
+    const QString text = QInputDialog::getText(parent_window(), to_qt(box.title), to_qt(box.prompt),
+                                               QLineEdit::Normal, to_qt(box.text), &accepted);
+    if (!accepted) return std::nullopt;
+    return from_qt(text);
+}
+
+std::string QtPlatform::file_dialog(const FileDialog& dialog) {
+    const NormalPointer pointer;
+    const QString filter = to_qt(dialog.filter);
+    const QString pattern = filter.section('|', 1, 1); // "tvn|*.tvn"
+    QFileDialog window(parent_window(), to_qt(dialog.title), QString::fromStdString(dialog.directory),
+                       filter.section('|', 0, 0) + " (" + pattern + ")");
+    window.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    window.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    window.setDefaultSuffix(pattern.section('.', 1));
+    window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwrite_prompt);
+    if (!dialog.file_name.empty()) window.selectFile(to_qt(dialog.file_name));
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) cancelled();
+    return window.selectedFiles().constFirst().toStdString();
+}
+
+std::int32_t QtPlatform::colour_dialog(std::int32_t start) {
+    const NormalPointer pointer;
+    const QColor chosen = QColorDialog::getColor(to_qt_colour(start), parent_window());
+    if (!chosen.isValid()) cancelled();
+    return from_qt_colour(chosen);
+}
+
+Font QtPlatform::font_dialog(const FontDialog& dialog) {
+    const NormalPointer pointer;
+    QFont start(to_qt(dialog.font.name));
+    start.setPointSizeF(dialog.font.size);
+    start.setBold(dialog.font.bold);
+    start.setItalic(dialog.font.italic);
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, start, parent_window());
+    if (!accepted) cancelled();
+    return {from_qt(chosen.family()),
+            chosen.pointSizeF(),
+            chosen.bold(),
+            chosen.italic(),
+            dialog.with_effects && chosen.underline(),
+            dialog.with_effects && chosen.strikeOut()};
+}
+
+FormWindow& QtPlatform::window_of(Form& form) {
+    // The twins hold the state, so a window that is not on screen can be made anew at any time.
+    std::unique_ptr<FormWindow>& window = windows[form.name];
+    if (!window || !window->isVisible()) window = make_form_window(form, events, main.get());
+    return *window;
+}
+
+void QtPlatform::show_modal(Form& form) {
+    FormWindow& window = window_of(form);
+    const NormalPointer pointer;
+    window.exec();
+}
+
+void QtPlatform::show(Form& form) {
+    FormWindow& window = window_of(form);
+    window.show();
+    window.raise();
+}
+
+void QtPlatform::hide(Form& form) {
+    const auto window = windows.find(form.name);
+    if (window != windows.end() && window->second) window->second->done(QDialog::Accepted);
+}
+
+void QtPlatform::show_main_window() {
+    main = std::make_unique<frmMain_window>(*program, sprites, events);
+    main->show();
+}
+
+void QtPlatform::unload_main_window() {
+    if (main) main->unload();
+    QApplication::quit();
+}
+
+void QtPlatform::popup_menu(const std::string& menu) { main->open_popup(menu); }
+
+void QtPlatform::hourglass(bool on) {
+    if (on == waiting) return;
+    waiting = on;
+    if (on)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtPlatform::end_process(int code) { QApplication::exit(code); }
+
+std::shared_ptr<const MapPicture> QtPlatform::load_map(const std::string& path) { return read_map(path); }
+
+PictureId QtPlatform::load_marker(const std::string& path, std::int32_t colour) {
+    return sprites.load(path, colour);
+}
+
+std::vector<std::string> QtPlatform::fonts() {
+    std::vector<std::string> names;
+    for (const QString& family : QFontDatabase::families()) names.push_back(from_qt(family));
+    return names;
+}
+
+bool QtPlatform::has_font(const std::string& name) { return font_is_available(name); }
+
+TextSize QtPlatform::text_size(const std::string& text, const Font& font) { return measure_text(text, font); }
+
+WorkArea QtPlatform::work_area() {
+    WorkArea area;
+    const QRect available = QApplication::primaryScreen()->availableGeometry();
+    area.width_twips = available.width() * area.twips_per_pixel_x;
+    area.height_twips = available.height() * area.twips_per_pixel_y;
+    return area;
+}
+
+std::string QtPlatform::program_directory() { return directory; }
+
+bool QtPlatform::random_bits(std::array<std::uint8_t, 16>& bytes) {
+    std::array<quint32, 4> words{};
+    QRandomGenerator::system()->fillRange(words.data(), words.size());
+    std::memcpy(bytes.data(), words.data(), bytes.size());
+    return true;
+}

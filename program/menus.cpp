@@ -1,0 +1,59 @@
+#include "program/menus.h"
+
+#include "core/hierarchy.h"
+#include "persistence/main_file_reader.h"
+#include "persistence/main_file_writer.h"
+#include "program/about.h"
+#include "program/exit.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace {
+
+using Main = frmMain;
+
+constexpr std::array<MenuRow, 31> rows{{
+    {"&File", "Save selected ...", "mnuSaveSelected", &Main::mnuSaveSelected, mnuSaveSelected_Click},
+    {"&File", "Save main...", "mnuSave", &Main::mnuSave, mnuSave_Click},
+    {"&File", "Load main...", "mnuLoad", &Main::mnuLoad, mnuLoad_Click},
+    {"&File", "Save units", "mnuSaveUnits", &Main::mnuSaveUnits, nullptr},
+    {"mnuSaveUnits", "Save Allied units...", "mnuSaveAlliedUnits", &Main::mnuSaveAlliedUnits, nullptr},
+    {"mnuSaveUnits", "Save Axis units...", "mnuSaveAxisUnits", &Main::mnuSaveAxisUnits, nullptr},
+    {"mnuSaveUnits", "Save all units", "mnuSaveAllUnits", &Main::mnuSaveAllUnits, nullptr},
+    {"mnuSaveUnits", "Save selected units...", "mnuSaveSelectedUnits", &Main::mnuSaveSelectedUnits, nullptr},
+    {"&File", "Load units...", "mnuLoadUnits", &Main::mnuLoadUnits, nullptr},
+    {"&File", "Exit", "mnuExit", &Main::mnuExit, mnuExit_Click},
+    {"&Edit", "Delete everything...", "mnuDeleteAll", &Main::mnuDeleteAll, nullptr},
+    {"&Edit", "Delete selected units...", "mnuDeleteSelected", &Main::mnuDeleteSelected, nullptr},
+    {"&View", "Set display options...", "mnuSetDisplay", &Main::mnuSetDisplay, nullptr},
+    {"&View", "Order Of Battle...", "mnuViewCompleteOOB", &Main::mnuViewCompleteOOB, nullptr},
+    {"&View", "Unit overall state", "mnuUnitState", &Main::mnuUnitState, nullptr},
+    {"&View", "Units", "mnuShowHideUnits", &Main::mnuShowHideUnits, nullptr},
+    {"&Tools", "Range circles", "mnuRangeCircles", &Main::mnuRangeCircles, nullptr},
+    {"&Tools", "Check && repair HQ/Subordiante links", "mnuCheckHQSub", &Main::mnuCheckHQSub,
+     mnuCheckHQSub_Click},
+    {"&Tools", "Change unit ID", "mnuChangeUnitID", &Main::mnuChangeUnitID, mnuChangeUnitID_Click},
+    {"&Tools", "Options", "mnuOpt", &Main::mnuOpt, nullptr},
+    {"mnuOpt", "Leave AOO in place when moving units", "mnuLeaveAOO", &Main::mnuLeaveAOO, nullptr},
+    {"&Reports", "List all units...", "mnuListUnits", &Main::mnuListUnits, nullptr},
+    {"&Help", "About Tolvane II", "mnuAboutTolvaneII", &Main::mnuAboutTolvaneII, mnuAboutTolvaneII_Click},
+    {"&Help", "About the map", "mnuAboutMap", &Main::mnuAboutMap, mnuAboutMap_Click},
+    {unit_popup, "Delete...", "mnuUP_delete", &Main::mnuUP_delete, nullptr},
+    {unit_popup, "Edit unit", "mnuUP_edit", &Main::mnuUP_edit, nullptr},
+    {unit_popup, "Delete all...", "mnuUP_delete_all", &Main::mnuUP_delete_all, nullptr},
+    {unit_popup, "Move to...", "mnuUP_moveto", &Main::mnuUP_moveto, nullptr},
+    {overview_popup, "Show firefans", "mnuViewFFoverview", &Main::mnuViewFFoverview, nullptr},
+    {overview_popup, "Show lines", "mnuOVPU_showlines", &Main::mnuOVPU_showlines, nullptr},
+    {overview_popup, "Show units", "mnuOVPU_show_units", &Main::mnuOVPU_show_units, nullptr},
+}};
+
+} // namespace
+
+std::span<const MenuRow> menu_rows() { return rows; }
+
+bool opens_submenu(const MenuRow& row) {
+    return std::any_of(rows.begin(), rows.end(),
+                       [&](const MenuRow& other) { return std::string_view(other.parent) == row.control; });
+}

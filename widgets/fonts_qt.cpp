@@ -1,0 +1,57 @@
+#include "widgets/fonts_qt.h"
+
+#include "widgets/text.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+/// A font of other systems and the free one with the same widths.
+struct StandIn {
+    const char* name;
+    const char* instead;
+};
+
+constexpr std::array<StandIn, 4> stand_ins{{{"Arial", "Liberation Sans"},
+                                            {"Times New Roman", "Liberation Serif"},
+                                            {"Courier New", "Liberation Mono"},
+                                            {"MS Sans Serif", "Liberation Sans"}}};
+
+constexpr double pixels_per_point = 96.0 / 72.0;
+
+QString installed_name(const std::string& name) {
+    const QString wanted = to_qt(name);
+    if (QFontDatabase::hasFamily(wanted)) return wanted;
+    for (const StandIn& stand_in : stand_ins)
+        if (name == stand_in.name && QFontDatabase::hasFamily(stand_in.instead)) return stand_in.instead;
+    return {};
+}
+
+} // namespace
+
+QFont to_qt_font(const Font& font) {
+    const QString installed = installed_name(font.name);
+    QFont result(installed.isEmpty() ? to_qt(font.name) : installed);
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * pixels_per_point))));
+    result.setBold(font.bold);
+    result.setItalic(font.italic);
+    result.setUnderline(font.underline);
+    result.setStrikeOut(font.strikethru);
+    return result;
+}
+
+bool font_is_available(const std::string& name) { return !installed_name(name).isEmpty(); }
+
+TextSize measure_text(const std::string& text, const Font& font) {
+    const QFontMetricsF metrics(to_qt_font(font));
+    const QStringList lines = to_qt(text).split('\n');
+    double width = 0;
+    for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
+    return {std::ceil(width), std::ceil(metrics.height() * static_cast<double>(lines.size()))};
+}

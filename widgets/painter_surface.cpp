@@ -1,0 +1,120 @@
+#include "widgets/painter_surface.h"
+
+#include "widgets/colours_qt.h"
+#include "widgets/fonts_qt.h"
+#include "widgets/text.h"
+
+#include <QFontMetrics>
+#include <QImage>
+#include <QPolygonF>
+#include <QStringList>
+
+#include <array>
+#include <numbers>
+
+namespace {
+
+constexpr int mask_mode = 9;
+constexpr int hatch_size = 8;
+
+/// A hatch as a texture on white. The library's own hatch brushes paint their gaps black in mask mode; white
+/// leaves the map as it is there.
+QBrush hatch(int style, const QColor& colour, bool mask) {
+    QImage texture(hatch_size, hatch_size, QImage::Format_ARGB32_Premultiplied);
+    texture.fill(mask ? Qt::white : Qt::transparent);
+    for (int i = 0; i < hatch_size; ++i) {
+        if (style == 2 || style == 6) texture.setPixelColor(i, hatch_size / 2, colour);
+        if (style == 3 || style == 6) texture.setPixelColor(hatch_size / 2, i, colour);
+        if (style == 4 || style == 7) texture.setPixelColor(i, hatch_size - 1 - i, colour);
+        if (style == 5 || style == 7) texture.setPixelColor(i, i, colour);
+    }
+    return QBrush(texture);
+}
+
+Qt::PenStyle dashes(const Pen& pen) {
+    constexpr std::array<Qt::PenStyle, 5> styles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
+                                                 Qt::DashDotDotLine};
+    const bool dashed = pen.DrawWidth <= 1 && pen.DrawStyle > 0 && pen.DrawStyle < 5;
+    return dashed ? styles[static_cast<std::size_t>(pen.DrawStyle)] : Qt::SolidLine;
+}
+
+QRectF around(Point centre, double radius) {
+    return {centre.x - radius, centre.y - radius, 2 * radius, 2 * radius};
+}
+
+} // namespace
+
+void PainterSurface::apply_mode() {
+    painter.setCompositionMode(pen.DrawMode == mask_mode ? QPainter::RasterOp_SourceAndDestination
+                                                         : QPainter::CompositionMode_SourceOver);
+}
+
+QPen PainterSurface::outline() const {
+    return {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), dashes(pen), Qt::RoundCap,
+            Qt::RoundJoin};
+}
+
+QBrush PainterSurface::fill() const {
+    const QColor colour = to_qt_colour(pen.FillColor);
+    if (pen.FillStyle == 0) return colour;
+    if (pen.FillStyle == 1) return Qt::NoBrush;
+    return hatch(pen.FillStyle, colour, pen.DrawMode == mask_mode);
+}
+
+template <class Draw> void PainterSurface::fill_and_outline(Draw draw) {
+    apply_mode();
+    if (pen.FillStyle != 1) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(fill());
+        draw();
+    }
+    painter.setPen(outline());
+    painter.setBrush(Qt::NoBrush);
+    draw();
+}
+
+void PainterSurface::line(Point from, Point to) {
+    apply_mode();
+    painter.setPen(outline());
+    painter.drawLine(QPointF(from.x, from.y), QPointF(to.x, to.y));
+}
+
+void PainterSurface::circle(Point centre, double radius) {
+    fill_and_outline([&] { painter.drawEllipse(around(centre, radius)); });
+}
+
+void PainterSurface::pie(Point centre, double radius, double start, double end) {
+    constexpr double units = 16 * 180 / std::numbers::pi; // sixteenths of a degree
+    double span = end - start;
+    if (span <= 0) span += 2 * std::numbers::pi;
+    const int from = static_cast<int>(start * units); // angles of the painter, not of the rules
+    const int sweep = static_cast<int>(span * units);
+    fill_and_outline([&] { painter.drawPie(around(centre, radius), from, sweep); });
+}
+
+void PainterSurface::polygon(const std::vector<Point>& points) {
+    QPolygonF corners;
+    for (const Point& point : points) corners << QPointF(point.x, point.y);
+    fill_and_outline([&] { painter.drawPolygon(corners); });
+}
+
+void PainterSurface::print(Point at, const std::string& text) {
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setPen(to_qt_colour(pen.ForeColor));
+    painter.setFont(to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold}));
+    const QFontMetrics metrics = painter.fontMetrics();
+    double baseline = at.y + metrics.ascent();
+    for (const QString& line : to_qt(text).split('\n')) {
+        painter.drawText(QPointF(at.x, baseline), line);
+        baseline += metrics.height();
+    }
+}
+
+void PainterSurface::rectangle(Point top_left, double width, double height, double corner_radius) {
+    const QRectF box(top_left.x, top_left.y, width, height);
+    fill_and_outline([&] { painter.drawRoundedRect(box, corner_radius, corner_radius); });
+}
+
+void PainterSurface::ellipse(Point top_left, double width, double height) {
+    fill_and_outline([&] { painter.drawEllipse(QRectF(top_left.x, top_left.y, width, height)); });
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/surface.h"
+
+#include <QBrush>
+#include <QPainter>
+#include <QPen>
+
+/// The drawing surface on a painter, without anti-aliasing. The device must be opaque: in mask mode colours are
+/// combined with what is there by AND, outline and fill each for itself.
+class PainterSurface : public Surface {
+  public:
+    explicit PainterSurface(QPainter& painter) : painter(painter) {}
+
+    void line(Point from, Point to) override;
+    void circle(Point centre, double radius) override;
+    void pie(Point centre, double radius, double start, double end) override;
+    void polygon(const std::vector<Point>& points) override;
+    void print(Point at, const std::string& text) override;
+
+    // Outlines of shapes on the map, which no layer draws.
+    void rectangle(Point top_left, double width, double height, double corner_radius);
+    void ellipse(Point top_left, double width, double height);
+
+  private:
+    void apply_mode();
+    QPen outline() const;
+    QBrush fill() const;
+    /// Fills first, then draws the outline over it.
+    template <class Draw> void fill_and_outline(Draw draw);
+
+    QPainter& painter;
+};
