@@ -128,8 +128,8 @@ template <class T> class Collection {
     };
 
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
-    // Most collections belong to one unit and hold a handful of records: comparing so few keys is quicker than
-    // hashing one, and thousands of units then carry no hash table.
+    // Most collections belong to one unit and hold a handful of records: comparing so few keys is quicker
+    // than hashing one, and thousands of units then carry no hash table.
     static constexpr std::size_t largest_without_index = 8;
 
     bool indexed() const { return !index.empty(); }

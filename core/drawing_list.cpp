@@ -57,11 +57,21 @@ void DrawingList::replay(Surface& target, const Bounds& wanted) const {
         if (!figure.bounds.meets(wanted)) continue;
         target.pen = figure.pen;
         switch (figure.kind) {
-        case Kind::line: target.line(figure.points[0], figure.points[1]); break;
-        case Kind::circle: target.circle(figure.points[0], figure.radius); break;
-        case Kind::pie: target.pie(figure.points[0], figure.radius, figure.start, figure.end); break;
-        case Kind::polygon: target.polygon(figure.points); break;
-        case Kind::print: target.print(figure.points[0], figure.text); break;
+        case Kind::line:
+            target.line(figure.points[0], figure.points[1]);
+            break;
+        case Kind::circle:
+            target.circle(figure.points[0], figure.radius);
+            break;
+        case Kind::pie:
+            target.pie(figure.points[0], figure.radius, figure.start, figure.end);
+            break;
+        case Kind::polygon:
+            target.polygon(figure.points);
+            break;
+        case Kind::print:
+            target.print(figure.points[0], figure.text);
+            break;
         }
     }
 }

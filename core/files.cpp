@@ -70,10 +70,13 @@ int write_failure_number(int error) { return error == ENOSPC ? failure::disk_ful
 
 int output_failure_number(int error) {
     switch (error) {
-    case ENOSPC: return failure::disk_full;
+    case ENOSPC:
+        return failure::disk_full;
     case ENOENT:
-    case ENOTDIR: return failure::path_not_found;
-    default: return failure::path_access;
+    case ENOTDIR:
+        return failure::path_not_found;
+    default:
+        return failure::path_access;
     }
 }
 

@@ -36,8 +36,8 @@ int check_parent(const Collection<oUnits>& units, oUnits& unit) {
         unit.parent_ID.clear();
         return 0;
     }
-    const bool added = headquarters->children->add_new(
-        std::make_shared<oChildren>(oChildren{unit.ID, unit.name}), unit.ID);
+    const bool added =
+        headquarters->children->add_new(std::make_shared<oChildren>(oChildren{unit.ID, unit.name}), unit.ID);
     return added ? 1 : 0;
 }
 

@@ -7,8 +7,9 @@
 namespace {
 
 // From the highest rank to the lowest.
-constexpr std::array<std::string_view, 11> echelons{"Army",    "Corps",   "Division", "Brigade", "Regiment", "Battalion",
-                                                    "Company", "Platoon", "Squad",    "Team",    "Battery"};
+constexpr std::array<std::string_view, 11> echelons{"Army",     "Corps",     "Division", "Brigade",
+                                                    "Regiment", "Battalion", "Company",  "Platoon",
+                                                    "Squad",    "Team",      "Battery"};
 
 } // namespace
 

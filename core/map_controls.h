@@ -8,8 +8,9 @@
 #include <string>
 #include <vector>
 
-// The controls that stand over the map or the overview, one per unit, label or shape. They are a drawing list,
-// not widgets: the map window paints them in order of depth and finds the topmost one under the pointer.
+// The controls that stand over the map or the overview, one per unit, label or shape. They are a drawing
+// list, not widgets: the map window paints them in order of depth and finds the topmost one under the
+// pointer.
 
 /// A composed marker picture that the platform keeps; 0 is none.
 using PictureId = int;
@@ -34,7 +35,7 @@ struct MapControl {
 /// `imgUnit`: the marker of a unit.
 struct UnitMarker : MapControl {
     PictureId picture = 0;
-    std::int32_t colour = 0; // shown alone when there is no picture
+    std::int32_t colour = 0;       // shown alone when there is no picture
     std::int16_t border_style = 0; // 1: selected
 };
 

@@ -47,7 +47,8 @@ std::size_t number_length(std::string_view text) {
 double converted(std::string_view text) {
     if (text.front() == '+') text.remove_prefix(1);
     std::string plain(text);
-    std::replace_if(plain.begin(), plain.end(), [](char c) { return c == 'd' || c == 'D' || c == 'E'; }, 'e');
+    std::replace_if(
+        plain.begin(), plain.end(), [](char c) { return c == 'd' || c == 'D' || c == 'E'; }, 'e');
     double value = 0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
@@ -145,7 +146,8 @@ std::string number_text(double value) {
     if (value == 0) return "0";
     std::array<char, 40> buffer{};
     const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 15).ptr;
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 15)
+            .ptr;
     std::string text(buffer.data(), end);
     std::replace(text.begin(), text.end(), 'e', 'E');
     return text;

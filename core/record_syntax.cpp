@@ -14,9 +14,8 @@ bool is_blank(char c) { return c == ' ' || c == '\t'; }
 bool is_separator(char c) { return c == ',' || c == '\r' || c == '\n'; }
 
 bool equal_ignoring_case(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
-        return std::toupper(x) == std::toupper(y);
-    });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](unsigned char x, unsigned char y) { return std::toupper(x) == std::toupper(y); });
 }
 
 /// Most numbers in a file are short and whole; false when this one is not.

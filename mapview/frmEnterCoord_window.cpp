@@ -14,8 +14,8 @@ frmEnterCoord_window::frmEnterCoord_window(frmEnterCoord& form, EventRunner& eve
     auto* const fields = new QFormLayout;
     fields->addRow("&East:", text_box("txtLongdata", "East", form.txtLongdata,
                                       [&form] { form.txtLongdata_GotFocus(); }));
-    fields->addRow("&North:", text_box("txtLatdata", "North", form.txtLatdata,
-                                       [&form] { form.txtLatdata_GotFocus(); }));
+    fields->addRow("&North:",
+                   text_box("txtLatdata", "North", form.txtLatdata, [&form] { form.txtLatdata_GotFocus(); }));
     page->addLayout(fields);
     page->addWidget(text(form.hint));
     auto* const buttons = new QDialogButtonBox;

@@ -50,8 +50,8 @@ void draw_rulers(Program& program, Painting& painting) {
                               last_two_digits(i + program.campaign.gMapEast0));
     painting.vcoord.clear();
     ruler_pen(painting.vcoord.pen, main.ruler_font);
-    // Rounded, where the grid reference takes the whole part: with less than half a kilometre of rest the ruler
-    // reads one less.
+    // Rounded, where the grid reference takes the whole part: with less than half a kilometre of rest the
+    // ruler reads one less.
     const int rows = kilometres(main.picMap.height);
     for (int i = 0; i <= rows - 2; ++i)
         painting.vcoord.print({-1, pixels_per_km * i - 6 + first_line_y}, last_two_digits(rows - i - 1));

@@ -27,13 +27,21 @@ void show_unit_markers(Program& program, bool visible) {
 void scroll_by_key(Program& program, int code) {
     switch (code) {
     case key::up:
-    case key::keypad_0 + 8: go_up(program); break;
+    case key::keypad_0 + 8:
+        go_up(program);
+        break;
     case key::down:
-    case key::keypad_0 + 2: go_down(program); break;
+    case key::keypad_0 + 2:
+        go_down(program);
+        break;
     case key::left:
-    case key::keypad_0 + 4: go_left(program); break;
+    case key::keypad_0 + 4:
+        go_left(program);
+        break;
     case key::right:
-    case key::keypad_0 + 6: go_right(program); break;
+    case key::keypad_0 + 6:
+        go_right(program);
+        break;
     case key::keypad_0 + 7:
         go_up(program);
         go_left(program);
@@ -50,7 +58,8 @@ void scroll_by_key(Program& program, int code) {
         go_down(program);
         go_left(program);
         break;
-    default: break;
+    default:
+        break;
     }
 }
 

@@ -12,12 +12,9 @@ void make_label_control(Program& program, const oLabels& label) {
     control.back_colour = label.backcolor;
     control.back_style = label.backstyle;
     control.border_style = label.borderstyle;
-    control.font = {label.font_name,
-                    static_cast<double>(label.font_size),
-                    label.font_bold,
-                    label.font_italic,
-                    label.font_underline,
-                    label.font_strikethru};
+    control.font = {label.font_name,      static_cast<double>(label.font_size),
+                    label.font_bold,      label.font_italic,
+                    label.font_underline, label.font_strikethru};
     const TextSize size = program.platform.text_size(control.caption, control.font);
     const double frame = label.borderstyle != 0 ? 2 : 0;
     control.width = size.width + frame;

@@ -47,8 +47,7 @@ void lay_out(frmMain& main) {
 void size_overview_box(Program& program) {
     frmMain& main = program.main;
     const PictureBox& overview = main.picOverviewmap;
-    main.shpOverviewbox.width =
-        whole_part(overview.width / main.picMap.width * main.picMapwindow.width) + 1;
+    main.shpOverviewbox.width = whole_part(overview.width / main.picMap.width * main.picMapwindow.width) + 1;
     main.shpOverviewbox.height =
         whole_part(overview.height / main.picMap.height * main.picMapwindow.height) + 3;
 }

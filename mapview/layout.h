@@ -6,8 +6,8 @@
 /// of its own. Also known as `resize_map_window`.
 void fit_main_window(Program& program);
 
-/// The main window got a new size: outer width and height and inner width, in pixels. Does nothing while it is
-/// minimised, that is with an inner width of 0.
+/// The main window got a new size: outer width and height and inner width, in pixels. Does nothing while it
+/// is minimised, that is with an inner width of 0.
 void Form_Resize(Program& program, double width, double height, double scale_width);
 
 /// Gives the rulers the map's length, and the overview box its first place.

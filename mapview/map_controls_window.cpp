@@ -19,9 +19,7 @@ struct Waiting {
     std::function<void()> paint;
 };
 
-QRectF box(const MapControl& control) {
-    return {control.left, control.top, control.width, control.height};
-}
+QRectF box(const MapControl& control) { return {control.left, control.top, control.width, control.height}; }
 
 bool in_view(const MapControl& control, const QRectF& wanted) {
     return control.visible && control.container == Container::map && box(control).intersects(wanted);

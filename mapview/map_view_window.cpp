@@ -58,9 +58,9 @@ void MapView::paint_view(QPainter& painter, const QRect& exposed) const {
     painter.translate(offset);
     painter.setBrushOrigin(offset);
     PainterSurface surface(painter);
-    program.painting.map.replay(surface, {static_cast<double>(wanted.left()), static_cast<double>(wanted.top()),
-                                          static_cast<double>(wanted.right()),
-                                          static_cast<double>(wanted.bottom())});
+    program.painting.map.replay(surface,
+                                {static_cast<double>(wanted.left()), static_cast<double>(wanted.top()),
+                                 static_cast<double>(wanted.right()), static_cast<double>(wanted.bottom())});
     paint_map_controls(painter, main, sprites, wanted);
     painter.restore();
 }

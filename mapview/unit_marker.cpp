@@ -9,13 +9,15 @@ namespace {
 PictureId load_picture(Program& program, oUnits& unit) {
     const std::string& app_path = program.campaign.gAppPath;
     PictureId picture = 0;
-    int number = failure_of([&] { picture = program.platform.load_marker(app_path + unit.symbol, unit.color); });
+    int number =
+        failure_of([&] { picture = program.platform.load_marker(app_path + unit.symbol, unit.color); });
     if (number == failure::file_not_found) {
         program.platform.message(
             {"Unable to load unit image '" + app_path + unit.symbol + "'.\nSetting unit image to blank.",
              Icon::warning});
         unit.symbol = blank_symbol;
-        number = failure_of([&] { picture = program.platform.load_marker(app_path + unit.symbol, unit.color); });
+        number =
+            failure_of([&] { picture = program.platform.load_marker(app_path + unit.symbol, unit.color); });
         // Asking again would never end.
         if (number == failure::file_not_found) return 0;
     }

@@ -103,8 +103,8 @@ bool load_polygons(MainFileLoad& load, FieldReader& in) {
     for (int i = 0; i < count; ++i) {
         const auto polygon = read_polygon(in);
         load.program.campaign.colPolygons->add_new(polygon, polygon->ID);
-        // Tested at the end of each round, so that such a file is read up to its first polygon, and one without
-        // polygons goes on.
+        // Tested at the end of each round, so that such a file is read up to its first polygon, and one
+        // without polygons goes on.
         if (ends_after_polygon(load.file_tag)) return false;
     }
     return true;
@@ -166,7 +166,8 @@ void cmdLoad_Click(Program& program) {
     const int number = failure_of([&] {
         path = program.platform.file_dialog({"tolvane ii data", program.campaign.gAppPath, "tvn|*.tvn"});
     });
-    if (number == 0) load_file(program, path);
+    if (number == 0)
+        load_file(program, path);
     else if (number != failure::cancelled)
         show_failure(program, number, " when loading data!", Icon::warning);
 }

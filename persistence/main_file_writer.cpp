@@ -66,8 +66,8 @@ void save(Program& program) {
         return;
     if (units_left_in_tray(program)) return;
     enable_fenced_buttons(program);
-    const std::string path = platform.file_dialog(
-        {"tolvane ii data", program.campaign.gAppPath, "tvn|*.tvn", "", true, true});
+    const std::string path =
+        platform.file_dialog({"tolvane ii data", program.campaign.gAppPath, "tvn|*.tvn", "", true, true});
     const Hourglass hourglass(platform);
     check_hierarchy(program);
     write_campaign(program, *platform.open_for_output(path));

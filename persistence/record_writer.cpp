@@ -171,8 +171,8 @@ void write_fire_mission(FieldWriter& out, const oFireMission& mission) {
         .integer(mission.line_length)
         .integer(mission.missionclass)
         .integer(mission.missiontype)
-        // These notes alone go out as they stand, so that a quote in them damages the file: files written that
-        // way are in use, and the reader turns code 247 back in them all the same.
+        // These notes alone go out as they stand, so that a quote in them damages the file: files written
+        // that way are in use, and the reader turns code 247 back in them all the same.
         .text(mission.notes)
         .text(mission.numbtarget_id)
         .integer(mission.pattern)

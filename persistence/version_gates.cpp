@@ -31,8 +31,8 @@ constexpr std::array<OldVersion, 9> old_versions{{
 }};
 
 bool told(std::string_view tag, bool OldVersion::*question) {
-    const auto* const row =
-        std::find_if(old_versions.begin(), old_versions.end(), [&](const OldVersion& v) { return v.tag == tag; });
+    const auto* const row = std::find_if(old_versions.begin(), old_versions.end(),
+                                         [&](const OldVersion& v) { return v.tag == tag; });
     return row != old_versions.end() && row->*question;
 }
 

@@ -24,39 +24,54 @@ namespace {
 
 QMessageBox::Icon to_qt_icon(Icon icon) {
     switch (icon) {
-    case Icon::warning: return QMessageBox::Warning;
-    case Icon::question: return QMessageBox::Question;
-    case Icon::information: return QMessageBox::Information;
-    case Icon::none: break;
+    case Icon::warning:
+        return QMessageBox::Warning;
+    case Icon::question:
+        return QMessageBox::Question;
+    case Icon::information:
+        return QMessageBox::Information;
+    case Icon::none:
+        break;
     }
     return QMessageBox::NoIcon;
 }
 
 QMessageBox::StandardButtons to_qt_buttons(Buttons buttons) {
     switch (buttons) {
-    case Buttons::yes_no: return QMessageBox::Yes | QMessageBox::No;
-    case Buttons::yes_no_cancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case Buttons::ok: break;
+    case Buttons::yes_no:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::yes_no_cancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::ok:
+        break;
     }
     return QMessageBox::Ok;
 }
 
 QMessageBox::StandardButton to_qt_button(Answer answer) {
     switch (answer) {
-    case Answer::yes: return QMessageBox::Yes;
-    case Answer::no: return QMessageBox::No;
-    case Answer::cancel: return QMessageBox::Cancel;
-    case Answer::ok: break;
+    case Answer::yes:
+        return QMessageBox::Yes;
+    case Answer::no:
+        return QMessageBox::No;
+    case Answer::cancel:
+        return QMessageBox::Cancel;
+    case Answer::ok:
+        break;
     }
     return QMessageBox::Ok;
 }
 
 Answer to_answer(int button) {
     switch (button) {
-    case QMessageBox::Yes: return Answer::yes;
-    case QMessageBox::No: return Answer::no;
-    case QMessageBox::Cancel: return Answer::cancel;
-    default: return Answer::ok;
+    case QMessageBox::Yes:
+        return Answer::yes;
+    case QMessageBox::No:
+        return Answer::no;
+    case QMessageBox::Cancel:
+        return Answer::cancel;
+    default:
+        return Answer::ok;
     }
 }
 
@@ -176,7 +191,7 @@ void QtPlatform::hide(Form& form) {
 
 void QtPlatform::show_main_window() {
     main = std::make_unique<frmMain_window>(*program, sprites, events);
-    main->show();
+    main->showMaximized(); // below the frame that the window manager puts around it
 }
 
 void QtPlatform::unload_main_window() {

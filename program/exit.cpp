@@ -6,12 +6,27 @@
 
 namespace {
 
-constexpr std::array<const char*, 21> secondary_windows{
-    "frmLabel",          "frmMapLegend",   "frmStart",        "frmTotalOOB",     "frmAboutTolvaneII",
-    "frmAboutMap",       "frmCreateUnits", "frmEditUnit",     "frmDisplay",      "frmSetDateTime",
-    "frmEnterCoord",     "frmEditFE",      "frmFullscreenOverview", "frmSaveMapInfo", "frmWaypointdata",
-    "frmEditWaypoint",   "frmEditGmPlayers", "frmFireMissions", "frmTownsData",  "frmEditTown",
-    "frmListAllUnits"};
+constexpr std::array<const char*, 21> secondary_windows{"frmLabel",
+                                                        "frmMapLegend",
+                                                        "frmStart",
+                                                        "frmTotalOOB",
+                                                        "frmAboutTolvaneII",
+                                                        "frmAboutMap",
+                                                        "frmCreateUnits",
+                                                        "frmEditUnit",
+                                                        "frmDisplay",
+                                                        "frmSetDateTime",
+                                                        "frmEnterCoord",
+                                                        "frmEditFE",
+                                                        "frmFullscreenOverview",
+                                                        "frmSaveMapInfo",
+                                                        "frmWaypointdata",
+                                                        "frmEditWaypoint",
+                                                        "frmEditGmPlayers",
+                                                        "frmFireMissions",
+                                                        "frmTownsData",
+                                                        "frmEditTown",
+                                                        "frmListAllUnits"};
 
 void release_collections(Campaign& campaign) {
     campaign.colLabels.drop();
@@ -41,9 +56,9 @@ void mnuExit_Click(Program& program) {
         program.platform.unload_main_window();
     });
     if (number == 0) return;
-    program.platform.message({"Error " + std::to_string(number) +
-                                  " when exiting.\nTrying to force the program to end.",
-                              Icon::warning});
+    program.platform.message(
+        {"Error " + std::to_string(number) + " when exiting.\nTrying to force the program to end.",
+         Icon::warning});
     program.platform.end_process(1);
 }
 

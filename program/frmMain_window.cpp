@@ -57,9 +57,8 @@ frmMain_window::frmMain_window(Program& program, const Sprites& sprites, EventRu
     make_toolbar();
     make_map_area();
     make_status_bar();
-    connect(&blink, &QTimer::timeout, this, [this] {
-        this->events.run([this] { tmrTimer_Timer(this->program); });
-    });
+    connect(&blink, &QTimer::timeout, this,
+            [this] { this->events.run([this] { tmrTimer_Timer(this->program); }); });
     qApp->installEventFilter(this);
     setGeometry(0, 0, static_cast<int>(program.main.width), static_cast<int>(program.main.height));
     bring_in_step();
@@ -84,9 +83,8 @@ void frmMain_window::make_menus() {
             action = submenu->menuAction();
         } else {
             action = parent->addAction(row.caption);
-            connect(action, &QAction::triggered, this, [this, &row] {
-                events.run([&] { row.click(program); });
-            });
+            connect(action, &QAction::triggered, this,
+                    [this, &row] { events.run([&] { row.click(program); }); });
         }
         action->setObjectName(row.control);
         steps.emplace_back([this, action, &row] {
@@ -113,9 +111,8 @@ void frmMain_window::make_toolbar() {
         button->setAccessibleName(row.tip);
         button->setFocusPolicy(Qt::TabFocus);
         toolbar->addWidget(button);
-        connect(button, &QToolButton::clicked, this, [this, &row] {
-            events.run([&] { row.click(program); });
-        });
+        connect(button, &QToolButton::clicked, this,
+                [this, &row] { events.run([&] { row.click(program); }); });
         steps.emplace_back([this, button, &row] {
             const Button& twin = program.main.*row.button;
             button->setEnabled(twin.enabled && row.click != nullptr);
@@ -125,8 +122,8 @@ void frmMain_window::make_toolbar() {
     }
 }
 
-QScrollBar* frmMain_window::scroll_bar(const char* name, ScrollBar frmMain::*twin, Qt::Orientation orientation,
-                                       void (*change)(Program&)) {
+QScrollBar* frmMain_window::scroll_bar(const char* name, ScrollBar frmMain::*twin,
+                                       Qt::Orientation orientation, void (*change)(Program&)) {
     auto* const bar = new QScrollBar(orientation, area);
     bar->setObjectName(name);
     bar->setAccessibleName(orientation == Qt::Horizontal ? "Scroll the map east and west"
@@ -153,8 +150,10 @@ void frmMain_window::make_map_area() {
     area = new QWidget(this);
     setCentralWidget(area);
     map_view = new MapView(program, sprites, events, area);
-    horizontal_ruler = new RulerView(program, "picHcoordContainer", &frmMain::picHcoord, &Painting::hcoord, area);
-    vertical_ruler = new RulerView(program, "picVcoordContainer", &frmMain::picVcoord, &Painting::vcoord, area);
+    horizontal_ruler =
+        new RulerView(program, "picHcoordContainer", &frmMain::picHcoord, &Painting::hcoord, area);
+    vertical_ruler =
+        new RulerView(program, "picVcoordContainer", &frmMain::picVcoord, &Painting::vcoord, area);
     overview = new OverviewView(program, area);
     scroll_bar("scrlHMap", &frmMain::scrlHMap, Qt::Horizontal, scrlHMap_Scroll);
     scroll_bar("scrlVMap", &frmMain::scrlVMap, Qt::Vertical, scrlVMap_Scroll);
@@ -226,7 +225,8 @@ void frmMain_window::changeEvent(QEvent* event) {
 
 bool frmMain_window::eventFilter(QObject* watched, QEvent* event) {
     const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!key || watched != static_cast<QObject*>(windowHandle()) || !isActiveWindow()) return QMainWindow::eventFilter(watched, event);
+    if (!key || watched != static_cast<QObject*>(windowHandle()) || !isActiveWindow())
+        return QMainWindow::eventFilter(watched, event);
     const int code = key_code(static_cast<const QKeyEvent&>(*event));
     const bool down = event->type() == QEvent::KeyPress;
     if (code == key::ctrl) control_down = down;

@@ -15,8 +15,8 @@ struct frmStart : Form {
     const std::string progress = "Initializing, please wait...";
     Timer tmrTimer;
 
-    /// Starts the timer and shows the splash. A failure asks whether to go on with the next statement; No ends
-    /// the program.
+    /// Starts the timer and shows the splash. A failure asks whether to go on with the next statement; No
+    /// ends the program.
     void Form_Load();
     /// Its only tick: the work area, the map picture, the main window. Without the map the process ends.
     void tmrTimer_Timer();

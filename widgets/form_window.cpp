@@ -95,7 +95,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             if (handler.widget == watched) {
                 handler.got_focus();
                 // After the click that gave the focus has placed its own cursor.
-                QMetaObject::invokeMethod(this, [this] { bring_in_step(); }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(
+                    this, [this] { bring_in_step(); }, Qt::QueuedConnection);
             }
     return QDialog::eventFilter(watched, event);
 }

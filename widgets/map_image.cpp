@@ -21,9 +21,8 @@ bool sensible(const QSize& size) {
 }
 
 std::shared_ptr<const MapImage> with_overviews(QImage map, QImage full_screen) {
-    QImage overview =
-        full_screen.scaled(overview_size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-            .convertToFormat(QImage::Format_RGB888);
+    QImage overview = full_screen.scaled(overview_size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                          .convertToFormat(QImage::Format_RGB888);
     return std::make_shared<const MapImage>(std::move(map), std::move(overview), std::move(full_screen));
 }
 

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-/// The map in memory, three bytes a pixel: painting from it is as quick as from four, and a third smaller. Its
-/// two small copies are made while it is read.
+/// The map in memory, three bytes a pixel: painting from it is as quick as from four, and a third smaller.
+/// Its two small copies are made while it is read.
 class MapImage : public MapPicture {
   public:
     MapImage(QImage map, QImage overview, QImage full_screen_overview)

@@ -6,8 +6,8 @@
 #include <QPainter>
 #include <QPen>
 
-/// The drawing surface on a painter, without anti-aliasing. The device must be opaque: in mask mode colours are
-/// combined with what is there by AND, outline and fill each for itself.
+/// The drawing surface on a painter, without anti-aliasing. The device must be opaque: in mask mode colours
+/// are combined with what is there by AND, outline and fill each for itself.
 class PainterSurface : public Surface {
   public:
     explicit PainterSurface(QPainter& painter) : painter(painter) {}

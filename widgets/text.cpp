@@ -1,7 +1,7 @@
 #include "widgets/text.h"
 
-#include <array>
 #include <algorithm>
+#include <array>
 
 namespace {
 

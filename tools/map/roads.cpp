@@ -23,7 +23,9 @@ struct Grid {
         const int y = std::clamp(static_cast<int>(p.y() / cell + 0.5), 0, rows - 1);
         return y * columns + x;
     }
-    QPointF point(int n) const { return {static_cast<double>(n % columns * cell), static_cast<double>(n / columns * cell)}; }
+    QPointF point(int n) const {
+        return {static_cast<double>(n % columns * cell), static_cast<double>(n / columns * cell)};
+    }
 };
 
 double step_cost(const Terrain& terrain, QPointF a, QPointF b) {
@@ -32,7 +34,8 @@ double step_cost(const Terrain& terrain, QPointF a, QPointF b) {
     const double water = terrain.river_distance.at(b) < 26 ? 420 : 0;
     const double wet = terrain.marsh.at(b) > 0 ? 2.5 : 0;
     const double wooded = terrain.woods.at(b) > 0 ? 0.6 : 0;
-    const double roughness = 0.35 * chance(static_cast<std::int64_t>(b.x()), static_cast<std::int64_t>(b.y()), 77);
+    const double roughness =
+        0.35 * chance(static_cast<std::int64_t>(b.x()), static_cast<std::int64_t>(b.y()), 77);
     return length * (1 + wet + wooded + roughness) + 14 * rise + water;
 }
 
@@ -69,13 +72,15 @@ std::vector<QPointF> cheapest_way(const Grid& grid, QPointF from, QPointF to, st
             }
     }
     std::vector<QPointF> way{to};
-    for (int n = before[static_cast<std::size_t>(goal)]; n != -1 && n != start; n = before[static_cast<std::size_t>(n)]) {
+    for (int n = before[static_cast<std::size_t>(goal)]; n != -1 && n != start;
+         n = before[static_cast<std::size_t>(n)]) {
         way.push_back(grid.point(n));
         trodden[static_cast<std::size_t>(n)] = 0.5;
     }
     way.push_back(from);
     std::vector<QPointF> thinned;
-    for (std::size_t i = 0; i < way.size(); i += (i + 3 < way.size() && i > 0) ? 3 : 1) thinned.push_back(way[i]);
+    for (std::size_t i = 0; i < way.size(); i += (i + 3 < way.size() && i > 0) ? 3 : 1)
+        thinned.push_back(way[i]);
     return smooth_curve(thinned, 8);
 }
 
@@ -116,7 +121,8 @@ std::vector<Link> links(const std::vector<Place>& places) {
             add(i, nearest(i, [&](const Place& p) { return p.population >= least; }));
         }
     std::stable_sort(found.begin(), found.end(), [&](const Link& a, const Link& b) {
-        return class_between(places[a.first], places[a.second]) < class_between(places[b.first], places[b.second]);
+        return class_between(places[a.first], places[a.second]) <
+               class_between(places[b.first], places[b.second]);
     });
     return found;
 }
@@ -125,7 +131,8 @@ std::vector<Link> links(const std::vector<Place>& places) {
 
 std::vector<Road> build_roads(const Terrain& terrain, const std::vector<Place>& places) {
     const Grid grid(terrain);
-    std::vector<double> trodden(static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows), 1);
+    std::vector<double> trodden(static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows),
+                                1);
     std::vector<Road> roads;
     for (const auto& [a, b] : links(places))
         roads.push_back({class_between(places[a], places[b]),
@@ -138,7 +145,8 @@ std::vector<Road> build_roads(const Terrain& terrain, const std::vector<Place>& 
         if (places[i].name == "Tichoborsk") leave(RoadClass::highway, i, {0, places[i].point.y() - 120});
         if (places[i].name == "Suchoj Shernowez")
             leave(RoadClass::improved, i, {static_cast<double>(terrain.width), places[i].point.y() - 200});
-        if (places[i].name == "Bolschaja Kruschina") leave(RoadClass::highway, i, {places[i].point.x() - 500, static_cast<double>(terrain.height)});
+        if (places[i].name == "Bolschaja Kruschina")
+            leave(RoadClass::highway, i, {places[i].point.x() - 500, static_cast<double>(terrain.height)});
         if (places[i].name == "Lerchenau") leave(RoadClass::country, i, {places[i].point.x() + 90, 0});
     }
     return roads;
@@ -154,6 +162,7 @@ std::vector<QPointF> railway(int map_height) {
                                                               {32.5, 33.6},
                                                               {37.2, 36.2}}};
     std::vector<QPointF> points;
-    for (const auto& [east, north] : stops) points.emplace_back(east * km, (map_height / 150 - north) * km + 102);
+    for (const auto& [east, north] : stops)
+        points.emplace_back(east * km, (map_height / 150 - north) * km + 102);
     return smooth_curve(points, 8);
 }

@@ -48,7 +48,8 @@ QPointF across(QPointF way) { return {-way.y(), way.x()}; }
 
 /// Where a level line crosses the edges of a cell: two or four points.
 std::vector<QPointF> crossings(const Field& field, int column, int row, double level) {
-    const std::array<std::pair<int, int>, 4> corners{{{column, row}, {column + 1, row}, {column + 1, row + 1}, {column, row + 1}}};
+    const std::array<std::pair<int, int>, 4> corners{
+        {{column, row}, {column + 1, row}, {column + 1, row + 1}, {column, row + 1}}};
     std::vector<QPointF> points;
     for (std::size_t i = 0; i < 4; ++i) {
         const auto [ax, ay] = corners[i];
@@ -179,7 +180,8 @@ void Sheet::ravine_edges() {
         stream.setDashPattern({8, 5});
         painter.setPen(stream);
         painter.setBrush(Qt::NoBrush);
-        painter.drawPath(path_of({ravine.begin() + static_cast<std::ptrdiff_t>(ravine.size() / 3), ravine.end()}));
+        painter.drawPath(
+            path_of({ravine.begin() + static_cast<std::ptrdiff_t>(ravine.size() / 3), ravine.end()}));
         for (std::size_t i = 2; i < steep_end; ++i) {
             const QPointF side = across(direction(ravine, i));
             const double open = 5 + 4 * std::min(1.0, static_cast<double>(i) / 30);
@@ -262,14 +264,16 @@ void Sheet::settlement(const Place& place) {
     painter.setBrush(Qt::NoBrush);
     if (place.is_farm() || place.population < 60) {
         for (int i = 0; i < 4; ++i)
-            painter.fillRect(QRectF(place.point.x() - 8 + 7 * (i % 2), place.point.y() - 6 + 7 * (i / 2), 5, 4),
-                             QColor(0x3B, 0x34, 0x30));
+            painter.fillRect(
+                QRectF(place.point.x() - 8 + 7 * (i % 2), place.point.y() - 6 + 7 * (i / 2), 5, 4),
+                QColor(0x3B, 0x34, 0x30));
         return;
     }
     const QPointF down = terrain.heights.slope(place.point);
     const double valley = std::atan2(down.y(), down.x()) + 3.14159265 / 2;
     const double length = std::min(620.0, 40 + place.population * 0.13 / (place.is_town() ? 3.2 : 1.3));
-    const int streets = place.is_town() ? std::min(9, 3 + place.population / 1300) : (place.is_village() ? 2 : 1);
+    const int streets =
+        place.is_town() ? std::min(9, 3 + place.population / 1300) : (place.is_village() ? 2 : 1);
     std::vector<std::vector<QPointF>> lines;
     for (int s = 0; s < streets; ++s) {
         const double offset = (s - (streets - 1) / 2.0) * 27;
@@ -284,14 +288,16 @@ void Sheet::settlement(const Place& place) {
     for (const auto& line : lines)
         for (std::size_t i = 0; i < line.size(); i += 4)
             if (terrain.river_distance.at(line[i]) > water_margin + 8)
-                painter.drawEllipse(line[i], 17 + 4 * chance(static_cast<std::int64_t>(i), place.population, 75), 17);
+                painter.drawEllipse(line[i],
+                                    17 + 4 * chance(static_cast<std::int64_t>(i), place.population, 75), 17);
     painter.setBrush(Qt::NoBrush);
     if (place.is_town())
         for (int c = -2; c <= 2; ++c) {
             const QPointF way(std::cos(valley), std::sin(valley));
             const QPointF at = place.point + way * (length / 6 * c);
             const double reach = (streets - 1) / 2.0 * 27 + 8;
-            street(painter, smooth_curve({at - across(way) * reach, at + across(way) * reach}, 3), place, 90 + c);
+            street(painter, smooth_curve({at - across(way) * reach, at + across(way) * reach}, 3), place,
+                   90 + c);
         }
     int seed = place.population;
     for (const auto& line : lines) street(painter, line, place, ++seed);
@@ -372,7 +378,8 @@ void Sheet::bridges() {
     for (const auto& way : ways)
         for (std::size_t i = 2; i + 2 < way.size(); ++i) {
             const double here = terrain.river_distance.at(way[i]);
-            const bool lowest = here < terrain.river_distance.at(way[i - 1]) && here <= terrain.river_distance.at(way[i + 1]);
+            const bool lowest =
+                here < terrain.river_distance.at(way[i - 1]) && here <= terrain.river_distance.at(way[i + 1]);
             const bool far = std::none_of(built.begin(), built.end(), [&](QPointF b) {
                 return std::hypot(b.x() - way[i].x(), b.y() - way[i].y()) < 40;
             });
@@ -433,7 +440,8 @@ void Sheet::grid() {
 }
 
 bool Sheet::is_free(const QRectF& box) const {
-    return std::none_of(taken.begin(), taken.end(), [&](const QRectF& other) { return other.intersects(box); });
+    return std::none_of(taken.begin(), taken.end(),
+                        [&](const QRectF& other) { return other.intersects(box); });
 }
 
 void Sheet::halo_text(QPointF baseline, const QString& text, const QFont& font, const QColor& colour) {
@@ -454,9 +462,10 @@ void Sheet::name(const Place& place) {
     const double height = metrics.ascent();
     const double out = std::min(215.0, extent(place) + 10);
     const std::array<QPointF, 8> spots{
-        QPointF(out, height / 3),         QPointF(-out - width, height / 3), QPointF(-width / 2, -out),
-        QPointF(-width / 2, out + height), QPointF(out, -out / 2),           QPointF(out, out / 2 + height),
-        QPointF(-out - width, -out / 2),  QPointF(-out - width, out / 2 + height)};
+        QPointF(out, height / 3),        QPointF(-out - width, height / 3),
+        QPointF(-width / 2, -out),       QPointF(-width / 2, out + height),
+        QPointF(out, -out / 2),          QPointF(out, out / 2 + height),
+        QPointF(-out - width, -out / 2), QPointF(-out - width, out / 2 + height)};
     QPointF best = spots[0];
     double best_cost = 1e9;
     for (const QPointF& spot : spots) {

@@ -38,18 +38,17 @@ double ramp(double value, double from, double to) {
 } // namespace
 
 Terrain::Terrain(int map_width, int map_height)
-    : width(map_width), height(map_height),
-      tolva(river({{-0.5, 33.4},
-                   {0, 33},
-                   {6.2, 30.4},
-                   {13.4, 26.1},
-                   {15.7, 22.0},
-                   {21, 18.5},
-                   {26.5, 14.2},
-                   {31, 10},
-                   {36, 7.4},
-                   {37.5, 6.6}},
-                  map_height, 80, 11)),
+    : width(map_width), height(map_height), tolva(river({{-0.5, 33.4},
+                                                         {0, 33},
+                                                         {6.2, 30.4},
+                                                         {13.4, 26.1},
+                                                         {15.7, 22.0},
+                                                         {21, 18.5},
+                                                         {26.5, 14.2},
+                                                         {31, 10},
+                                                         {36, 7.4},
+                                                         {37.5, 6.6}},
+                                                        map_height, 80, 11)),
       ozimka(river({{37.2, 22.9}, {36, 22.4}, {31.2, 20.6}, {28.8, 19.4}, {25.6, 17.7}, {23.4, 16.7}},
                    map_height, 50, 23)),
       heights(map_width, map_height), river_distance(map_width, map_height), woods(map_width, map_height),
@@ -116,7 +115,8 @@ void Terrain::cut_ravines() {
                 const QPointF apart = ravine[ravine.size() / 2] - p;
                 if (std::hypot(apart.x(), apart.y()) > static_cast<double>(ravine.size()) * 6 + 120) continue;
                 const Nearest nearest = nearest_on(ravine, p);
-                const double depth = 9 * ramp(nearest.along, 0, 0.35) * (1 - 0.7 * ramp(nearest.along, 0.75, 1));
+                const double depth =
+                    9 * ramp(nearest.along, 0, 0.35) * (1 - 0.7 * ramp(nearest.along, 0.75, 1));
                 cut = std::max(cut, depth * (1 - ramp(nearest.distance, 6, 95)));
             }
             heights.node(column, row) -= cut;
@@ -131,8 +131,9 @@ void Terrain::grow_woods_and_marsh() {
             const QPointF down = heights.slope(p);
             const double north_slope = std::clamp(-down.y() / 3, -0.4, 0.5);
             const double flood_plain = ramp(distance, 25, 60) * (1 - ramp(distance, 120, 330));
-            woods.node(column, row) = noise(p.x(), p.y(), 330, 41) * 0.75 + noise(p.x(), p.y(), 120, 42) * 0.3 +
-                                      north_slope + 0.35 * flood_plain - 0.62;
+            woods.node(column, row) = noise(p.x(), p.y(), 330, 41) * 0.75 +
+                                      noise(p.x(), p.y(), 120, 42) * 0.3 + north_slope + 0.35 * flood_plain -
+                                      0.62;
             const double flat = 1 - std::min(1.0, std::hypot(down.x(), down.y()) / 0.9);
             marsh.node(column, row) =
                 flood_plain * flat + 0.6 * noise(p.x(), p.y(), 260, 43) - 0.72 - (distance < 24 ? 1 : 0);

@@ -12,8 +12,8 @@ struct Terrain {
 
     int width;
     int height;
-    std::vector<QPointF> tolva;  // from the north-west to the south-east
-    std::vector<QPointF> ozimka; // from the east to its mouth
+    std::vector<QPointF> tolva;                // from the north-west to the south-east
+    std::vector<QPointF> ozimka;               // from the east to its mouth
     std::vector<std::vector<QPointF>> ravines; // each from its head down
     Field heights;                             // metres
     Field river_distance;                      // pixels

@@ -95,9 +95,8 @@ bool write_gif(const Canvas& canvas, const std::string& path) {
     if (gif == nullptr) return false;
     ColorMapObject* const palette = GifMakeMapObject(4, colours.data());
     EGifSetGifVersion(gif, false);
-    bool written =
-        EGifPutScreenDesc(gif, Canvas::width, Canvas::height, 2, 0, palette) == GIF_OK &&
-        EGifPutImageDesc(gif, 0, 0, Canvas::width, Canvas::height, false, nullptr) == GIF_OK;
+    bool written = EGifPutScreenDesc(gif, Canvas::width, Canvas::height, 2, 0, palette) == GIF_OK &&
+                   EGifPutImageDesc(gif, 0, 0, Canvas::width, Canvas::height, false, nullptr) == GIF_OK;
     for (int y = 0; written && y < Canvas::height; ++y) {
         std::vector<GifPixelType> row;
         for (int x = 0; x < Canvas::width; ++x) row.push_back(canvas.at(x, y));

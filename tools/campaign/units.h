@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/program.h"
+#include "tools/campaign/formations.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// Puts the formations on the map as units with HQ links, holdings and supply.
+class UnitMaker {
+  public:
+    UnitMaker(Program& program, const std::map<std::string, std::vector<Holding>>& holdings)
+        : program(program), holdings(holdings) {}
+
+    void make(const std::vector<Formation>& formations);
+
+  private:
+    std::shared_ptr<oUnits> unit(const Formation& formation, const std::string& name, const Deployment& where,
+                                 oUnits* headquarters);
+    void tree(const Formation& formation, const std::string& name, const Deployment& where,
+              oUnits* headquarters);
+    void add_holdings(oUnits& unit);
+
+    Program& program;
+    const std::map<std::string, std::vector<Holding>>& holdings;
+};

@@ -1,0 +1,15 @@
+# Puts below the program's directory what it expects there. A file that the program has rewritten since stays.
+# The map is made once and shared by all builds.
+set(map ${source}/build/map/velmora2.jpg)
+if(NOT EXISTS ${map})
+    message(STATUS "Making the map picture")
+    file(MAKE_DIRECTORY ${source}/build/map)
+    execute_process(COMMAND ${map_tool} ${source}/data/towns.txt ${map}.part RESULT_VARIABLE failed ERROR_QUIET)
+    if(failed)
+        message(FATAL_ERROR "The map picture could not be made: ${failed}")
+    endif()
+    file(RENAME ${map}.part ${map})
+endif()
+execute_process(COMMAND cp -Ru ${source}/data ${source}/campaigns ${program}/ COMMAND_ERROR_IS_FATAL ANY)
+file(MAKE_DIRECTORY ${program}/map)
+execute_process(COMMAND ln -sf ${map} ${program}/map/velmora2.jpg COMMAND_ERROR_IS_FATAL ANY)
