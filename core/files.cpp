@@ -1,10 +1,10 @@
 #include "core/files.h"
 
-#include "core/failure.h"
+#include "core/code_page.h"
+#include "core/trap.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -17,17 +17,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
-
-std::vector<std::string> names_in(const std::string& directory) {
+/// The names in a directory as the disk spells them. Fails with 75 when it can't be read.
+std::vector<std::string> names_in(const std::string& directory, bool files_only) {
     std::vector<std::string> names;
-    std::error_code none;
-    for (const auto& entry : fs::directory_iterator(directory.empty() ? "." : directory, none))
-        names.push_back(entry.path().filename().string());
+    std::error_code error;
+    fs::directory_iterator entry(directory.empty() ? "." : directory, error);
+    while (!error && entry != fs::directory_iterator()) {
+        std::error_code unknown;
+        if (!files_only || !entry->is_directory(unknown)) names.push_back(entry->path().filename().string());
+        entry.increment(error);
+    }
+    const bool missing = error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
+    if (error && !missing) throw Failure{failure::path_access};
     return names;
 }
 
@@ -38,13 +39,16 @@ bool on_disk(const std::string& path) {
 
 /// The component as the directory spells it, or as given where nothing matches.
 std::string component_on_disk(const std::string& directory, const std::string& component) {
-    if (on_disk(directory + component)) return component;
-    const std::string wanted = lower(component);
-    std::vector<std::string> names = names_in(directory);
+    const std::string spelled = files::to_disk_name(component);
+    for (const std::string& name : {component, spelled})
+        if (on_disk(directory + name)) return name;
+    std::vector<std::string> names;
+    if (failure_of([&] { names = names_in(directory, false); }) != 0) return spelled;
     std::sort(names.begin(), names.end());
-    const auto found =
-        std::find_if(names.begin(), names.end(), [&](const std::string& n) { return lower(n) == wanted; });
-    return found == names.end() ? component : *found;
+    const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
+        return lower_case(files::from_disk_name(name)) == lower_case(component);
+    });
+    return found == names.end() ? spelled : *found;
 }
 
 /// A descriptor that is closed on every path.
@@ -84,6 +88,11 @@ class DiskOutput : public OutputFile {
   public:
     explicit DiskOutput(int fd) : file(fd) { buffer.reserve(block); }
 
+    /// Records before the one that failed are in the file.
+    ~DiskOutput() override {
+        static_cast<void>(failure_of([this] { flush(); }));
+    }
+
     void write(const std::string& bytes) override {
         buffer += bytes;
         if (buffer.size() >= block) flush();
@@ -118,7 +127,43 @@ class DiskOutput : public OutputFile {
 
 } // namespace
 
-std::string files::disk_path(const std::string& path) {
+std::string files::to_disk_name(const std::string& text) {
+    std::string name;
+    for (const char c : text) {
+        const char32_t character = character_of(static_cast<unsigned char>(c));
+        if (character < 0x80) {
+            name += static_cast<char>(character);
+        } else if (character < 0x800) {
+            name += static_cast<char>(0xC0 | character >> 6);
+            name += static_cast<char>(0x80 | (character & 0x3F));
+        } else {
+            name += static_cast<char>(0xE0 | character >> 12);
+            name += static_cast<char>(0x80 | (character >> 6 & 0x3F));
+            name += static_cast<char>(0x80 | (character & 0x3F));
+        }
+    }
+    return name;
+}
+
+std::string files::from_disk_name(const std::string& name) {
+    std::string text;
+    for (std::size_t at = 0; at < name.size();) {
+        const auto lead = static_cast<unsigned char>(name[at]);
+        const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        if (length == 1 || at + length > name.size()) {
+            text += name[at++]; // plain, or no UTF-8: kept as it is
+            continue;
+        }
+        char32_t character = lead & (0x7FU >> length);
+        for (std::size_t i = 1; i < length; ++i)
+            character = character << 6 | (static_cast<unsigned char>(name[at + i]) & 0x3F);
+        text += byte_of(character);
+        at += length;
+    }
+    return text;
+}
+
+std::string files::reference_path(const std::string& path) {
     std::string turned = path;
     std::replace(turned.begin(), turned.end(), '\\', '/');
     if (on_disk(turned)) return turned;
@@ -134,16 +179,17 @@ std::string files::disk_path(const std::string& path) {
     return found;
 }
 
-bool files::exists(const std::string& path) { return on_disk(disk_path(path)); }
+bool files::exists(const std::string& path) { return on_disk(path); }
 
 std::string files::read(const std::string& path) {
-    Descriptor file(::open(disk_path(path).c_str(), O_RDONLY | O_CLOEXEC));
+    // Without waiting: a pipe in the place of a file would never answer.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.get() < 0)
         throw Failure{errno == ENOENT || errno == ENOTDIR ? failure::file_not_found : failure::path_access};
     struct stat status {};
+    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) throw Failure{failure::path_access};
     std::string bytes;
-    if (::fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode))
-        bytes.reserve(static_cast<std::size_t>(status.st_size));
+    bytes.reserve(static_cast<std::size_t>(status.st_size));
     std::array<char, 1 << 16> block{};
     for (;;) {
         const ssize_t got = ::read(file.get(), block.data(), block.size());
@@ -155,22 +201,27 @@ std::string files::read(const std::string& path) {
 }
 
 std::vector<std::string> files::list(const std::string& directory, const std::string& ending) {
-    std::vector<std::string> names = names_in(disk_path(directory));
-    const std::string wanted = lower(ending);
-    std::erase_if(names, [&](const std::string& name) { return !lower(name).ends_with(wanted); });
+    std::vector<std::string> names;
+    for (const std::string& name : names_in(directory, true)) names.push_back(from_disk_name(name));
+    const std::string wanted = lower_case(ending);
+    std::erase_if(names, [&](const std::string& name) { return !lower_case(name).ends_with(wanted); });
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        const std::string lower_a = lower(a);
-        const std::string lower_b = lower(b);
+        const std::string lower_a = lower_case(a);
+        const std::string lower_b = lower_case(b);
         return lower_a != lower_b ? lower_a < lower_b : a < b;
     });
     return names;
 }
 
 std::unique_ptr<OutputFile> files::open_for_output(const std::string& path) {
-    const int fd = ::open(disk_path(path).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (fd < 0) throw Failure{output_failure_number(errno)};
     return std::make_unique<DiskOutput>(fd);
 }
+
+std::string Platform::shown_path(const std::string& path) { return files::from_disk_name(path); }
+
+std::string Platform::reference_path(const std::string& path) { return files::reference_path(path); }
 
 bool Platform::file_exists(const std::string& path) { return files::exists(path); }
 

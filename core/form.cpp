@@ -11,8 +11,8 @@ void Form::show_modal() {
 }
 
 void Form::show() {
-    visible = true;
     program.platform.show(*this);
+    visible = true;
 }
 
 void Form::hide() {

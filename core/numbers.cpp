@@ -43,6 +43,18 @@ std::size_t number_length(std::string_view text) {
     return at;
 }
 
+/// Whether a decimal text that no Double can hold is too large, not too small: decided by the place of its
+/// first digit.
+bool is_beyond_one(std::string_view text) {
+    const std::size_t exponent_at = std::min(text.find('e'), text.size());
+    const std::string_view mantissa = text.substr(0, exponent_at);
+    const bool negative_exponent = text.substr(exponent_at).find('-') != std::string_view::npos;
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    const std::size_t first = mantissa.find_first_of("123456789");
+    // An exponent out of range is far larger than any mantissa is long; without one the mantissa decides.
+    return exponent_at < text.size() ? !negative_exponent : first < point;
+}
+
 /// Converts a text that `number_length` accepted whole. Fails with 6 beyond a Double.
 double converted(std::string_view text) {
     if (text.front() == '+') text.remove_prefix(1);
@@ -52,10 +64,8 @@ double converted(std::string_view text) {
     double value = 0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too small is as good as nothing; too large is an overflow.
-        const bool tiny = plain.find("e-") != std::string::npos || plain.find("0.0") != std::string::npos;
-        if (!tiny) throw Failure{failure::overflow};
-        return 0;
+        if (is_beyond_one(plain)) throw Failure{failure::overflow};
+        return 0; // too small is as good as nothing
     }
     return value;
 }
@@ -95,9 +105,11 @@ template <class Whole> Whole checked(double rounded) {
     return static_cast<Whole>(rounded);
 }
 
-template <class Number> void append_chars(std::string& out, Number value) {
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+/// In plain decimal, however large or small: files have no exponents.
+template <class Number> void append_decimal(std::string& out, Number value) {
+    std::array<char, 400> buffer;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
     out.append(buffer.data(), end);
 }
 
@@ -116,9 +128,9 @@ std::int16_t to_int16(double value) { return checked<std::int16_t>(round_half_ev
 std::int32_t to_long(double value) { return checked<std::int32_t>(round_half_even(value)); }
 
 float to_single(double value) {
-    if (!(std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max())))
-        throw Failure{failure::overflow};
-    return static_cast<float>(value);
+    const float nearest = static_cast<float>(value);
+    if (!std::isfinite(nearest)) throw Failure{failure::overflow};
+    return nearest;
 }
 
 double whole_part(double value) { return std::floor(value); }
@@ -177,6 +189,11 @@ std::string format_fixed(double value, int integer_digits, int decimals) {
     return (value < 0 && !nothing ? "-" : "") + integer + (decimals > 0 ? "." + fraction : "");
 }
 
-void append_single(std::string& out, float value) { append_chars(out, value); }
-void append_double(std::string& out, double value) { append_chars(out, value); }
-void append_integer(std::string& out, std::int64_t value) { append_chars(out, value); }
+void append_single(std::string& out, float value) { append_decimal(out, value); }
+void append_double(std::string& out, double value) { append_decimal(out, value); }
+
+void append_integer(std::string& out, std::int64_t value) {
+    std::array<char, 24> buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    out.append(buffer.data(), end);
+}

@@ -112,8 +112,12 @@ class Platform {
     /// Opens one of the main window's popup menus at the pointer.
     virtual void popup_menu(const std::string& menu) = 0;
     virtual void hourglass(bool on) = 0;
-    /// Ends the process at once, with this exit code.
+    /// Ends the event loop in an orderly way, with this exit code.
     virtual void end_process(int code) = 0;
+    /// Ends the process on the spot; nothing is cleaned up.
+    virtual void end_at_once() = 0;
+    /// A path or file name of the disk as a text of the program, to be shown.
+    virtual std::string shown_path(const std::string& path);
 
     /// Fails with 53 when the picture is missing, with 481 when it is damaged or no picture.
     virtual std::shared_ptr<const MapPicture> load_map(const std::string& path) = 0;
@@ -129,16 +133,14 @@ class Platform {
     /// Fills the bytes by chance; false when there is no source of it.
     virtual bool random_bits(std::array<std::uint8_t, 16>& bytes) = 0;
 
-    // Files, on the disk unless a test puts something in between.
+    // Files, on the disk unless a test puts something in between: as the procedures of `files` of these
+    // names.
 
+    /// Where a file of the program's own data lies; what the user chose in a dialog is a place already.
+    virtual std::string reference_path(const std::string& path);
     virtual bool file_exists(const std::string& path);
-    /// The whole file. Fails with 53 when it or its directory is missing, with 75 when it can't be read.
     virtual std::string read_file(const std::string& path);
-    /// The names of the directory's files with this ending in any letter case, in order of name without case.
-    /// A missing directory is an empty one.
     virtual std::vector<std::string> list_files(const std::string& directory, const std::string& ending);
-    /// Opens and empties the file. Fails with 75 when it can't be written, with 76 when its directory is
-    /// missing.
     virtual std::unique_ptr<OutputFile> open_for_output(const std::string& path);
 };
 

@@ -10,6 +10,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 struct Program;
 
@@ -38,7 +39,8 @@ struct Program {
     /// The form of this type, loaded if need be.
     template <class F> F& form() {
         std::unique_ptr<Form>& held = forms[F::form_name];
-        if (!held || !held->loaded) held = std::make_unique<F>(*this);
+        if (held && !held->loaded) retired.push_back(std::move(held));
+        if (!held) held = std::make_unique<F>(*this);
         return static_cast<F&>(*held);
     }
 
@@ -54,4 +56,5 @@ struct Program {
     frmMain main;
     Painting painting; // what the last refresh drew
     std::map<std::string, std::unique_ptr<Form>> forms;
+    std::vector<std::unique_ptr<Form>> retired; // unloaded and replaced, perhaps by a procedure of their own
 };

@@ -1,10 +1,10 @@
 #include "core/record_syntax.h"
 
+#include "core/code_page.h"
 #include "core/failure.h"
 #include "core/numbers.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace {
 
@@ -13,10 +13,7 @@ constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 bool is_blank(char c) { return c == ' ' || c == '\t'; }
 bool is_separator(char c) { return c == ',' || c == '\r' || c == '\n'; }
 
-bool equal_ignoring_case(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](unsigned char x, unsigned char y) { return std::toupper(x) == std::toupper(y); });
-}
+bool equal_ignoring_case(std::string_view a, std::string_view b) { return lower_case(a) == lower_case(b); }
 
 /// Most numbers in a file are short and whole; false when this one is not.
 bool short_whole_number(std::string_view text, std::int32_t& value) {

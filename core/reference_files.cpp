@@ -36,10 +36,16 @@ constexpr std::array<EchelonWord, 11> echelon_words{{{"army", "Army"},
                                                      {"team", "Team"},
                                                      {"battery", "Battery"}}};
 
+/// Where a file or directory below the program's own lies on the disk.
+std::string place_of(const Program& program, const std::string& path) {
+    return program.platform.reference_path(program.campaign.gAppPath + path);
+}
+
 void load_side(Program& program, const std::string& directory, const std::string& side) {
-    const std::string path = program.campaign.gAppPath + directory;
-    const auto names = program.platform.list_files(path, ".gif");
-    if (names.empty()) program.platform.message({"Error! No " + side + " forces found in " + path});
+    const auto names = program.platform.list_files(place_of(program, directory), ".gif");
+    if (names.empty())
+        program.platform.message({"Error! No " + side + " forces found in " +
+                                  program.platform.shown_path(program.campaign.gAppPath) + directory});
     for (const std::string& name : names) {
         auto type = std::make_shared<oUnitTypes>();
         type->unittype = name.substr(0, name.size() - 4);
@@ -78,7 +84,7 @@ std::shared_ptr<oTowns> read_town(FieldReader& reader) {
 
 template <class Person>
 void load_roster(Program& program, const std::string& file, Collection<Person>& roster) {
-    const std::string path = program.campaign.gAppPath + file;
+    const std::string path = place_of(program, file);
     if (!program.platform.file_exists(path)) return;
     const std::string bytes = program.platform.read_file(path);
     FieldReader reader(bytes);
@@ -92,7 +98,7 @@ void load_roster(Program& program, const std::string& file, Collection<Person>& 
 
 template <class Person>
 void save_roster(Program& program, const std::string& file, const Collection<Person>& roster) {
-    const auto out = program.platform.open_for_output(program.campaign.gAppPath + file);
+    const auto out = program.platform.open_for_output(place_of(program, file));
     FieldWriter writer;
     for (const auto& person : roster) writer.text(person->name).text(person->email).end_record();
     out->write(writer.bytes());
@@ -118,7 +124,7 @@ void load_unit_types(Program& program) {
 
 void load_force_elements(Program& program) {
     trap(program, " when loading force element types.", [&] {
-        const std::string bytes = program.platform.read_file(program.campaign.gAppPath + elements_file);
+        const std::string bytes = program.platform.read_file(place_of(program, elements_file));
         FieldReader reader(bytes);
         while (!reader.at_end()) {
             const auto element = read_element(reader);
@@ -137,7 +143,7 @@ void load_user_data(Program& program) {
 
 void load_towns(Program& program) {
     trap(program, " when loading towns data.", [&] {
-        const std::string bytes = program.platform.read_file(program.campaign.gAppPath + towns_file);
+        const std::string bytes = program.platform.read_file(place_of(program, towns_file));
         FieldReader reader(bytes);
         while (!reader.at_end()) {
             const auto town = read_town(reader);
@@ -153,7 +159,7 @@ void save_user_data(Program& program) {
 }
 
 void save_towns(Program& program) {
-    const auto out = program.platform.open_for_output(program.campaign.gAppPath + towns_file);
+    const auto out = program.platform.open_for_output(place_of(program, towns_file));
     FieldWriter writer;
     for (const auto& town : *program.campaign.colTowns)
         writer.text(town->axis_name)

@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/program.h"
 
+#include <exception>
 #include <new>
 #include <string>
 #include <utility>
@@ -16,6 +17,8 @@ template <class Body> int failure_of(Body&& body) {
         return failed.number;
     } catch (const std::bad_alloc&) {
         return failure::out_of_memory;
+    } catch (const std::exception&) {
+        return failure::invalid_call; // of the library: nothing may run on through the window system's loop
     }
     return 0;
 }

@@ -40,6 +40,6 @@ void grid_to_pixel(const Program& program, std::int16_t& x, std::int16_t& y, con
     const double north_rest = to_int16(to_double(right(north, 2)) * 1.5);
     const double east0 = program.campaign.gMapEast0;
     const double north0 = program.campaign.gMapNorth0;
-    x = to_int16(to_int16((east_km - east0 + 1) * pixels_per_km) + east_rest - pixels_per_km);
-    y = to_int16(to_int16((north0 + 1 - north_km) * pixels_per_km) - north_rest - grid_offset);
+    x = to_int16(round_half_even((east_km - east0 + 1) * pixels_per_km) + east_rest - pixels_per_km);
+    y = to_int16(round_half_even((north0 + 1 - north_km) * pixels_per_km) - north_rest - grid_offset);
 }

@@ -53,7 +53,7 @@ void paint_shape(QPainter& painter, const MapShape& shape) {
     surface.pen.ForeColor = shape.border_colour;
     surface.pen.FillColor = shape.fill_colour;
     surface.pen.FillStyle = 0;
-    surface.pen.DrawWidth = shape.border_width;
+    surface.pen.DrawWidth = std::max<int>(1, shape.border_width);
     surface.pen.DrawMode = shape.draw_mode;
     // Square and circle are as large as the smaller side allows, in the middle of the box.
     const bool even_sided = shape.shape == 1 || shape.shape == 3 || shape.shape == 5;

@@ -56,13 +56,19 @@ void MapView::paint_view(QPainter& painter, const QRect& exposed) const {
     painter.save();
     painter.setClipRect(exposed);
     painter.translate(offset);
-    painter.setBrushOrigin(offset);
     PainterSurface surface(painter);
     program.painting.map.replay(surface,
                                 {static_cast<double>(wanted.left()), static_cast<double>(wanted.top()),
                                  static_cast<double>(wanted.right()), static_cast<double>(wanted.bottom())});
     paint_map_controls(painter, main, sprites, wanted);
     painter.restore();
+}
+
+void MapView::update_find_marker() {
+    constexpr double reach = 27; // of its strokes and their width
+    const LineControl& stroke = program.main.linFindgridx;
+    const QPointF centre = QPointF((stroke.x1 + stroke.x2) / 2, stroke.y1) + origin();
+    update(QRectF(centre.x() - reach, centre.y() - reach, 2 * reach, 2 * reach).toAlignedRect());
 }
 
 void MapView::paintEvent(QPaintEvent* event) {
@@ -76,13 +82,16 @@ void MapView::paintEvent(QPaintEvent* event) {
 
 void MapView::mousePressEvent(QMouseEvent* event) {
     const MapPress press = map_press(*event, origin(), event->button());
+    pressed = hit_target(program, press.x, press.y).kind;
     events.run([&] { picMap_MouseDown(program, press); });
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     const MapPress press = map_press(*event, origin(), event->buttons());
-    events.run([&] {
-        if (hit_target(program, press.x, press.y).kind == TargetKind::map)
+    events.run_small([&] {
+        // While a button is down the moves go to the control that was pressed.
+        const TargetKind target = press.button != 0 ? pressed : hit_target(program, press.x, press.y).kind;
+        if (target == TargetKind::map)
             picMap_MouseMove(program, press);
         else
             control_MouseMove(program, press);
@@ -91,7 +100,8 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
     const MapPress press = map_press(*event, origin(), event->button());
-    events.run([&] { picMap_MouseUp(program, press); });
+    // A release over a marker or a label that was pressed has no effect of its own.
+    if (pressed == TargetKind::map) events.run([&] { picMap_MouseUp(program, press); });
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {

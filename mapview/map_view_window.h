@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/program.h"
+#include "mapview/hit_target.h"
 #include "widgets/event_runner.h"
 #include "widgets/sprites.h"
 
@@ -13,6 +14,8 @@ class MapView : public QWidget {
 
     /// The view as a picture would show it, for whoever has a painter of its own.
     void paint_view(QPainter& painter, const QRect& exposed) const;
+    /// Repaints only where the find marker stands.
+    void update_find_marker();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -27,4 +30,5 @@ class MapView : public QWidget {
     Program& program;
     const Sprites& sprites;
     EventRunner& events;
+    TargetKind pressed = TargetKind::map;
 };

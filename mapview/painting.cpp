@@ -28,8 +28,9 @@ void picMap_Paint(Program& program) {
     if (number != 0) show_failure(program, number, " when updating the map.");
 }
 
-void paint_if_marked(Program& program) {
-    if (!program.main.picMap.marked) return;
+bool paint_if_marked(Program& program) {
+    if (!program.main.picMap.marked) return false;
     program.main.picMap.marked = false;
     picMap_Paint(program);
+    return true;
 }

@@ -6,5 +6,5 @@
 /// failure ends the paint and is told once, after it; the layers behind it are missing.
 void picMap_Paint(Program& program);
 
-/// Paints when a refresh is wanted; all refreshes of one event are one paint.
-void paint_if_marked(Program& program);
+/// Paints when a refresh is wanted, and answers whether it was; all refreshes of one event are one paint.
+bool paint_if_marked(Program& program);

@@ -12,9 +12,9 @@ PictureId load_picture(Program& program, oUnits& unit) {
     int number =
         failure_of([&] { picture = program.platform.load_marker(app_path + unit.symbol, unit.color); });
     if (number == failure::file_not_found) {
-        program.platform.message(
-            {"Unable to load unit image '" + app_path + unit.symbol + "'.\nSetting unit image to blank.",
-             Icon::warning});
+        program.platform.message({"Unable to load unit image '" + program.platform.shown_path(app_path) +
+                                      unit.symbol + "'.\nSetting unit image to blank.",
+                                  Icon::warning});
         unit.symbol = blank_symbol;
         number =
             failure_of([&] { picture = program.platform.load_marker(app_path + unit.symbol, unit.color); });

@@ -1,6 +1,7 @@
 #include "platform/qt_platform.h"
 
 #include "core/failure.h"
+#include "core/files.h"
 #include "mapview/painting.h"
 #include "platform/form_windows.h"
 #include "widgets/colours_qt.h"
@@ -18,6 +19,7 @@
 #include <QRandomGenerator>
 #include <QScreen>
 
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -80,35 +82,41 @@ Answer to_answer(int button) {
 /// The pointer of a dialog is not the hourglass, also when the dialog asks in the middle of a long command.
 class NormalPointer {
   public:
-    NormalPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+    explicit NormalPointer(QtPlatform& platform) : platform(platform), waiting(platform.is_waiting()) {
+        platform.hourglass(false);
+    }
     NormalPointer(const NormalPointer&) = delete;
     NormalPointer& operator=(const NormalPointer&) = delete;
-    ~NormalPointer() { QApplication::restoreOverrideCursor(); }
+    ~NormalPointer() { platform.hourglass(waiting); }
+
+  private:
+    QtPlatform& platform;
+    bool waiting;
 };
 
 } // namespace
 
 void QtPlatform::serve(Program& shown) {
     program = &shown;
-    events.after_event = [this] {
+    events.after_event = [this](bool everything) {
         if (!main) return;
-        paint_if_marked(*program);
-        main->bring_in_step();
+        const bool painted = paint_if_marked(*program);
+        main->bring_in_step(everything || painted);
     };
     events.untrapped_failure = [this](int number) {
         message({"Error " + std::to_string(number) + ".", Icon::warning});
-        end_process(1);
     };
+    events.after_outermost_event = [this] { program->retired.clear(); };
 }
 
 QWidget* QtPlatform::parent_window() const {
     QWidget* const modal = QApplication::activeModalWidget();
     if (modal != nullptr) return modal;
-    return main && main->isVisible() ? main.get() : nullptr;
+    return main && main->isVisible() ? main.get() : QApplication::activeWindow(); // at start the splash
 }
 
 Answer QtPlatform::message(const MessageBox& box) {
-    const NormalPointer pointer;
+    const NormalPointer pointer(*this);
     QMessageBox dialog(to_qt_icon(box.icon), to_qt(box.title), to_qt(box.text), to_qt_buttons(box.buttons),
                        parent_window());
     dialog.setTextFormat(Qt::PlainText);
@@ -118,7 +126,7 @@ Answer QtPlatform::message(const MessageBox& box) {
 }
 
 std::optional<std::string> QtPlatform::input_box(const InputBox& box) {
-    const NormalPointer pointer;
+    const NormalPointer pointer(*this);
     bool accepted = false;
     const QString text = QInputDialog::getText(parent_window(), to_qt(box.title), to_qt(box.prompt),
                                                QLineEdit::Normal, to_qt(box.text), &accepted);
@@ -127,7 +135,7 @@ std::optional<std::string> QtPlatform::input_box(const InputBox& box) {
 }
 
 std::string QtPlatform::file_dialog(const FileDialog& dialog) {
-    const NormalPointer pointer;
+    const NormalPointer pointer(*this);
     const QString filter = to_qt(dialog.filter);
     const QString pattern = filter.section('|', 1, 1); // "tvn|*.tvn"
     QFileDialog window(parent_window(), to_qt(dialog.title), QString::fromStdString(dialog.directory),
@@ -142,14 +150,14 @@ std::string QtPlatform::file_dialog(const FileDialog& dialog) {
 }
 
 std::int32_t QtPlatform::colour_dialog(std::int32_t start) {
-    const NormalPointer pointer;
+    const NormalPointer pointer(*this);
     const QColor chosen = QColorDialog::getColor(to_qt_colour(start), parent_window());
     if (!chosen.isValid()) cancelled();
     return from_qt_colour(chosen);
 }
 
 Font QtPlatform::font_dialog(const FontDialog& dialog) {
-    const NormalPointer pointer;
+    const NormalPointer pointer(*this);
     QFont start(to_qt(dialog.font.name));
     start.setPointSizeF(dialog.font.size);
     start.setBold(dialog.font.bold);
@@ -168,13 +176,15 @@ Font QtPlatform::font_dialog(const FontDialog& dialog) {
 FormWindow& QtPlatform::window_of(Form& form) {
     // The twins hold the state, so a window that is not on screen can be made anew at any time.
     std::unique_ptr<FormWindow>& window = windows[form.name];
-    if (!window || !window->isVisible()) window = make_form_window(form, events, main.get());
+    if (window && window->isVisible()) return *window;
+    if (window) window.release()->deleteLater(); // it may be in the middle of an event of its own
+    window = make_form_window(form, events, main.get());
     return *window;
 }
 
 void QtPlatform::show_modal(Form& form) {
     FormWindow& window = window_of(form);
-    const NormalPointer pointer;
+    const NormalPointer pointer(*this);
     window.exec();
 }
 
@@ -212,10 +222,14 @@ void QtPlatform::hourglass(bool on) {
 
 void QtPlatform::end_process(int code) { QApplication::exit(code); }
 
-std::shared_ptr<const MapPicture> QtPlatform::load_map(const std::string& path) { return read_map(path); }
+void QtPlatform::end_at_once() { std::_Exit(1); }
+
+std::shared_ptr<const MapPicture> QtPlatform::load_map(const std::string& path) {
+    return read_map(files::reference_path(path));
+}
 
 PictureId QtPlatform::load_marker(const std::string& path, std::int32_t colour) {
-    return sprites.load(path, colour);
+    return sprites.load(files::reference_path(path), colour);
 }
 
 std::vector<std::string> QtPlatform::fonts() {

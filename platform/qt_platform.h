@@ -33,6 +33,7 @@ class QtPlatform : public Platform {
     void popup_menu(const std::string& menu) override;
     void hourglass(bool on) override;
     void end_process(int code) override;
+    void end_at_once() override;
     std::shared_ptr<const MapPicture> load_map(const std::string& path) override;
     PictureId load_marker(const std::string& path, std::int32_t colour) override;
     std::vector<std::string> fonts() override;
@@ -43,6 +44,7 @@ class QtPlatform : public Platform {
     bool random_bits(std::array<std::uint8_t, 16>& bytes) override;
 
     frmMain_window* main_window() const { return main.get(); }
+    bool is_waiting() const { return waiting; }
 
   private:
     QWidget* parent_window() const;

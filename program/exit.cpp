@@ -59,7 +59,7 @@ void mnuExit_Click(Program& program) {
     program.platform.message(
         {"Error " + std::to_string(number) + " when exiting.\nTrying to force the program to end.",
          Icon::warning});
-    program.platform.end_process(1);
+    program.platform.end_at_once();
 }
 
 void Form_QueryUnload(Program& program, UnloadMode mode) {

@@ -36,6 +36,7 @@ namespace {
 // as high as the style wants and the map area begins below it.
 constexpr int area_top = 23;
 // A frame and caption as the layout expects them, so that it does not depend on the window manager.
+constexpr QSize smallest_area(420, 240);
 constexpr int frame_width = 8;
 constexpr int frame_height = 46;
 
@@ -57,11 +58,13 @@ frmMain_window::frmMain_window(Program& program, const Sprites& sprites, EventRu
     make_toolbar();
     make_map_area();
     make_status_bar();
-    connect(&blink, &QTimer::timeout, this,
-            [this] { this->events.run([this] { tmrTimer_Timer(this->program); }); });
+    connect(&blink, &QTimer::timeout, this, [this] {
+        this->events.run_small([this] { tmrTimer_Timer(this->program); });
+        map_view->update_find_marker();
+    });
     qApp->installEventFilter(this);
     setGeometry(0, 0, static_cast<int>(program.main.width), static_cast<int>(program.main.height));
-    bring_in_step();
+    bring_in_step(true);
 }
 
 QMenu* frmMain_window::menu(const std::string& title) {
@@ -148,6 +151,8 @@ QScrollBar* frmMain_window::scroll_bar(const char* name, ScrollBar frmMain::*twi
 
 void frmMain_window::make_map_area() {
     area = new QWidget(this);
+    area->setMinimumSize(smallest_area);
+    area->installEventFilter(this); // it also changes when a bar of the window gets another height
     setCentralWidget(area);
     map_view = new MapView(program, sprites, events, area);
     horizontal_ruler =
@@ -167,12 +172,15 @@ void frmMain_window::place_map_area() {
     horizontal_ruler->setGeometry(rectangle(main.picHcoordContainer));
     vertical_ruler->setGeometry(rectangle(main.picVcoordContainer));
     overview->setGeometry(rectangle(main.picOverviewmap));
+    if (main.tmrTimer.enabled && !blink.isActive()) blink.start(main.tmrTimer.interval);
+    if (!main.tmrTimer.enabled) blink.stop();
+}
+
+void frmMain_window::repaint_map_area() {
     map_view->update();
     horizontal_ruler->update();
     vertical_ruler->update();
     overview->update();
-    if (main.tmrTimer.enabled && !blink.isActive()) blink.start(main.tmrTimer.interval);
-    if (!main.tmrTimer.enabled) blink.stop();
 }
 
 void frmMain_window::make_status_bar() {
@@ -181,13 +189,18 @@ void frmMain_window::make_status_bar() {
         auto* const panel = new QLabel;
         panel->setObjectName("panel" + QString::number(i + 1));
         panel->setMargin(2);
+        panel->setTextFormat(Qt::PlainText);
+        panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         statusBar()->addWidget(panel, 1);
         steps.emplace_back([this, panel, i] { panel->setText(to_qt(program.main.sbarMap.panels[i])); });
     }
 }
 
-void frmMain_window::bring_in_step() {
+void frmMain_window::bring_in_step(bool map_changed) {
     for (const auto& step : steps) step();
+    const QPointF stands_at(program.main.picMap.left, program.main.picMap.top);
+    if (map_changed || stands_at != shown_at) repaint_map_area();
+    shown_at = stands_at;
 }
 
 void frmMain_window::open_popup(const std::string& title) { menu(title)->popup(QCursor::pos()); }
@@ -202,11 +215,6 @@ void frmMain_window::fit_to_client() {
     const double width = area->width() + frame_width;
     const double height = area->height() + area_top + status_height + frame_height;
     events.run([&] { Form_Resize(program, width, height, isMinimized() ? 0 : area->width()); });
-}
-
-void frmMain_window::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    fit_to_client();
 }
 
 void frmMain_window::closeEvent(QCloseEvent* event) {
@@ -224,11 +232,15 @@ void frmMain_window::changeEvent(QEvent* event) {
 }
 
 bool frmMain_window::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area && event->type() == QEvent::Resize) fit_to_client();
     const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
     if (!key || watched != static_cast<QObject*>(windowHandle()) || !isActiveWindow())
         return QMainWindow::eventFilter(watched, event);
-    const int code = key_code(static_cast<const QKeyEvent&>(*event));
+    const auto& pressed = static_cast<const QKeyEvent&>(*event);
+    const int code = key_code(pressed);
     const bool down = event->type() == QEvent::KeyPress;
+    // A key that repeats is let go once, at its end.
+    if (!down && pressed.isAutoRepeat()) return false;
     if (code == key::ctrl) control_down = down;
     events.run([&] {
         if (down)
@@ -236,8 +248,5 @@ bool frmMain_window::eventFilter(QObject* watched, QEvent* event) {
         else
             Form_KeyUp(program, code);
     });
-    // The map and its scroll bars have no keys of their own: they would scroll a second time.
-    const QWidget* const focus = QApplication::focusWidget();
-    const bool scrolls_twice = dynamic_cast<const QScrollBar*>(focus) != nullptr;
-    return scrolls_twice && scrolls_the_map(code);
+    return false; // the focused control gets the key as well
 }

@@ -26,15 +26,14 @@ class frmMain_window : public QMainWindow {
   public:
     frmMain_window(Program& program, const Sprites& sprites, EventRunner& events);
 
-    /// Shows what the twins hold.
-    void bring_in_step();
+    /// Shows what the twins hold; the map, its rulers and the overview only where they can have changed.
+    void bring_in_step(bool map_changed);
     /// Opens a popup menu at the pointer.
     void open_popup(const std::string& title);
     /// Takes the window away; its close box is not asked.
     void unload();
 
   protected:
-    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,6 +45,7 @@ class frmMain_window : public QMainWindow {
     void make_status_bar();
     void fit_to_client();
     void place_map_area();
+    void repaint_map_area();
     QMenu* menu(const std::string& title);
     QScrollBar* scroll_bar(const char* name, ScrollBar frmMain::*twin, Qt::Orientation orientation,
                            void (*change)(Program&));
@@ -64,4 +64,5 @@ class frmMain_window : public QMainWindow {
     QTimer blink;
     bool unloading = false;
     bool control_down = false;
+    QPointF shown_at; // where the map stood at its last repaint
 };

@@ -22,13 +22,12 @@ bool force_to_run(Program& program, int number) {
 } // namespace
 
 void frmStart::Form_Load() {
-    const std::array<std::function<void()>, 3> statements{
+    const std::array<std::function<void()>, 4> statements{
         [&] { program.campaign.gAppPath = program.platform.program_directory(); },
         [&] {
             tmrTimer = {250, true};
-            program.platform.hourglass(true);
         },
-        [&] { show(); }};
+        [&] { program.platform.hourglass(true); }, [&] { show(); }};
     for (const auto& statement : statements) {
         const int number = failure_of(statement);
         if (number == 0 || force_to_run(program, number)) continue;
@@ -47,7 +46,9 @@ void frmStart::tmrTimer_Timer() {
     if (number != 0) {
         // Without the map there is nothing to show; half a map would be worse.
         tmrTimer.enabled = false;
-        program.platform.message({"Run-time error " + std::to_string(number) + "\n" + path, Icon::warning});
+        program.platform.message(
+            {"Run-time error " + std::to_string(number) + "\n" + program.platform.shown_path(path),
+             Icon::warning});
         program.platform.end_process(1);
         return;
     }

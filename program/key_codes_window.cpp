@@ -40,7 +40,3 @@ int key_code(const QKeyEvent& event) {
     if (keypad && find_code(keypad_corners, event.key()) != 0) return find_code(keypad_corners, event.key());
     return find_code(keys, event.key());
 }
-
-bool scrolls_the_map(int code) {
-    return (code >= key::left && code <= key::down) || (code > key::keypad_0 && code <= key::keypad_0 + 9);
-}

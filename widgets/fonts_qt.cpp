@@ -4,7 +4,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QStringList>
+#include <QRectF>
 
 #include <algorithm>
 #include <array>
@@ -29,7 +29,9 @@ QString installed_name(const std::string& name) {
     const QString wanted = to_qt(name);
     if (QFontDatabase::hasFamily(wanted)) return wanted;
     for (const StandIn& stand_in : stand_ins)
-        if (name == stand_in.name && QFontDatabase::hasFamily(stand_in.instead)) return stand_in.instead;
+        if (wanted.compare(stand_in.name, Qt::CaseInsensitive) == 0 &&
+            QFontDatabase::hasFamily(stand_in.instead))
+            return stand_in.instead;
     return {};
 }
 
@@ -49,9 +51,7 @@ QFont to_qt_font(const Font& font) {
 bool font_is_available(const std::string& name) { return !installed_name(name).isEmpty(); }
 
 TextSize measure_text(const std::string& text, const Font& font) {
-    const QFontMetricsF metrics(to_qt_font(font));
-    const QStringList lines = to_qt(text).split('\n');
-    double width = 0;
-    for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
-    return {std::ceil(width), std::ceil(metrics.height() * static_cast<double>(lines.size()))};
+    const QRectF box = QFontMetricsF(to_qt_font(font))
+                           .boundingRect(QRectF(0, 0, 1, 1), Qt::AlignLeft | Qt::TextDontClip, to_qt(text));
+    return {std::ceil(box.width()), std::ceil(box.height())};
 }

@@ -31,13 +31,16 @@ QLineEdit* FormWindow::text_box(const std::string& name, const std::string& acce
     edit->setObjectName(to_qt(name));
     edit->setAccessibleName(to_qt(accessible_name));
     connect(edit, &QLineEdit::textEdited, this, [this, &twin](const QString& typed) {
-        twin.text = from_qt(typed);
+        twin.text = from_qt(typed.section('\n', 0, 0)); // a pasted text may have more lines than the box
         bring_in_step();
     });
     steps.emplace_back([edit, &twin] {
         const QSignalBlocker quiet(edit);
-        if (from_qt(edit->text()) != twin.text || edit->text() != to_qt(twin.text))
+        if (edit->text() != to_qt(twin.text)) {
+            const int cursor = edit->cursorPosition();
             edit->setText(to_qt(twin.text));
+            edit->setCursorPosition(cursor);
+        }
         edit->setEnabled(twin.enabled);
         if (twin.all_selected) edit->selectAll();
         twin.all_selected = false;
@@ -77,7 +80,11 @@ QLabel* FormWindow::heading(const std::string& caption) {
     return label;
 }
 
-QLabel* FormWindow::text(const std::string& caption) { return new QLabel(to_qt(caption), this); }
+QLabel* FormWindow::text(const std::string& caption) {
+    auto* const label = new QLabel(to_qt(caption), this);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     // The form decides what its close box means; hiding it closes this window.

@@ -21,7 +21,6 @@ struct JpegReader::Decoder {
             std::longjmp(static_cast<Decoder*>(common->client_data)->escape, 1);
         };
         errors.output_message = [](j_common_ptr) {};
-        jpeg_create_decompress(&info);
     }
     Decoder(const Decoder&) = delete;
     Decoder& operator=(const Decoder&) = delete;
@@ -29,6 +28,7 @@ struct JpegReader::Decoder {
 
     bool read_header(const std::string& bytes) {
         if (setjmp(escape) != 0) return false;
+        jpeg_create_decompress(&info);
         jpeg_mem_src(&info, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
         return jpeg_read_header(&info, TRUE) == JPEG_HEADER_OK;
     }

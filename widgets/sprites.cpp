@@ -8,10 +8,14 @@
 #include <QByteArray>
 #include <QImage>
 #include <QImageReader>
+#include <QPainter>
+
+#include <algorithm>
 
 namespace {
 
-constexpr int largest_side = 256; // of a marker picture; a damaged header may claim anything
+constexpr int largest_side = 4096; // a damaged header may claim anything
+constexpr QSize marker_size(29, 31);
 
 QImage read_symbol(const std::string& path) {
     std::string bytes;
@@ -28,16 +32,22 @@ QImage read_symbol(const std::string& path) {
     if (size.width() > largest_side || size.height() > largest_side) throw Failure{failure::invalid_picture};
     const QImage picture = reader.read();
     if (picture.isNull()) throw Failure{failure::invalid_picture};
-    return picture.convertToFormat(QImage::Format_ARGB32);
+    return picture;
 }
 
-void tint(QImage& picture, QRgb colour) {
-    constexpr QRgb white = 0xFFFFFF;
+/// The symbol over a ground of the colour, which also takes the place of every white pixel.
+QImage tinted(const QImage& symbol, const QColor& colour) {
+    QImage picture(marker_size, QImage::Format_RGB32);
+    picture.fill(colour);
+    QPainter painter(&picture);
+    painter.drawImage(0, 0, symbol);
+    painter.end();
+    const QRgb white = qRgb(255, 255, 255);
     for (int y = 0; y < picture.height(); ++y) {
         auto* const line = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        for (int x = 0; x < picture.width(); ++x)
-            if (qAlpha(line[x]) == 0 || (line[x] & white) == white) line[x] = colour;
+        std::replace(line, line + picture.width(), white, colour.rgb());
     }
+    return picture;
 }
 
 } // namespace
@@ -46,9 +56,7 @@ PictureId Sprites::load(const std::string& path, std::int32_t colour) {
     const auto key = std::make_pair(path, colour);
     const auto known = ids.find(key);
     if (known != ids.end()) return known->second;
-    QImage picture = read_symbol(path);
-    tint(picture, to_qt_colour(colour).rgb());
-    pictures.push_back(QPixmap::fromImage(std::move(picture)));
+    pictures.push_back(QPixmap::fromImage(tinted(read_symbol(path), to_qt_colour(colour))));
     const auto id = static_cast<PictureId>(pictures.size() - 1);
     ids.emplace(key, id);
     return id;

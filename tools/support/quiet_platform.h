@@ -36,6 +36,7 @@ class QuietPlatform : public Platform {
     void popup_menu(const std::string& /*menu*/) override {}
     void hourglass(bool /*on*/) override {}
     void end_process(int /*code*/) override {}
+    void end_at_once() override {}
     std::shared_ptr<const MapPicture> load_map(const std::string& /*path*/) override {
         return std::make_shared<const Map>(5468, 6102);
     }

@@ -1,0 +1,150 @@
+#include "core/collection.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Record {
+    std::string name;
+};
+
+std::shared_ptr<Record> record(const std::string& name) { return std::make_shared<Record>(Record{name}); }
+
+std::string names(const Collection<Record>& collection) {
+    std::string all;
+    for (const auto& item : collection) all += item->name;
+    return all;
+}
+
+template <class Body> int number_of(Body body) {
+    try {
+        body();
+    } catch (const Failure& failed) {
+        return failed.number;
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(Collection, KeepsTheOrderOfInsertion) {
+    Collection<Record> collection;
+    for (const char* name : {"c", "a", "b"}) collection.add(record(name), name);
+    EXPECT_EQ(names(collection), "cab");
+    collection.remove("a");
+    EXPECT_EQ(names(collection), "cb");
+    collection.add(record("a"), "a");
+    EXPECT_EQ(names(collection), "cba");
+}
+
+TEST(Collection, PresentKeyFailsWith457AndChangesNothing) {
+    Collection<Record> collection;
+    collection.add(record("a"), "a");
+    EXPECT_EQ(number_of([&] { collection.add(record("b"), "a"); }), 457);
+    EXPECT_FALSE(collection.add_new(record("b"), "a"));
+    EXPECT_EQ(names(collection), "a");
+}
+
+TEST(Collection, AbsentKeyFailsWith5) {
+    Collection<Record> collection;
+    EXPECT_EQ(number_of([&] { collection.item("b"); }), 5);
+    EXPECT_EQ(number_of([&] { collection.remove("b"); }), 5);
+    EXPECT_EQ(collection.find("b"), nullptr);
+}
+
+TEST(Collection, KeysDifferByLetterCaseAndMayBeEmpty) {
+    Collection<Record> collection;
+    collection.add(record("a"), "a");
+    collection.add(record("A"), "A");
+    collection.add(record("-"), "");
+    EXPECT_EQ(collection.item("A")->name, "A");
+    EXPECT_EQ(collection.item("")->name, "-");
+    EXPECT_FALSE(collection.add_new(record("x"), ""));
+}
+
+TEST(Collection, RecordsWithoutKeyAreNotFoundByTheEmptyKey) {
+    Collection<Record> collection;
+    collection.add(record("a"));
+    EXPECT_EQ(collection.find(""), nullptr);
+}
+
+TEST(Collection, PositionsCountFromOneAndFailWith9) {
+    Collection<Record> collection;
+    for (const char* name : {"a", "b", "c"}) collection.add(record(name), name);
+    EXPECT_EQ(collection.at(1)->name, "a");
+    collection.remove("a");
+    EXPECT_EQ(collection.at(1)->name, "b");
+    EXPECT_EQ(number_of([&] { collection.at(0); }), 9);
+    EXPECT_EQ(number_of([&] { collection.at(3); }), 9);
+    collection.remove_at(2);
+    EXPECT_EQ(names(collection), "b");
+    EXPECT_EQ(number_of([&] { collection.remove_at(2); }), 9);
+}
+
+TEST(Collection, InsertsBehindAPosition) {
+    Collection<Record> collection;
+    collection.insert_after(0, record("b"));
+    collection.insert_after(1, record("c"));
+    collection.insert_after(0, record("a"));
+    EXPECT_EQ(names(collection), "abc");
+    EXPECT_EQ(number_of([&] { collection.insert_after(4, record("x")); }), 9);
+}
+
+TEST(Collection, ManyRecordsKeepKeyPositionAndOrderThroughRemovals) {
+    Collection<Record> collection;
+    constexpr int count = 2000;
+    for (int i = 0; i < count; ++i) collection.add(record(std::to_string(i)), std::to_string(i));
+    for (int i = 0; i < count; i += 2) collection.remove(std::to_string(i));
+    EXPECT_EQ(collection.count(), 1000U);
+    EXPECT_EQ(collection.item("1999")->name, "1999");
+    EXPECT_EQ(collection.find("1998"), nullptr);
+    EXPECT_EQ(collection.at(1000)->name, "1999");
+    collection.add(record("again"), "0");
+    EXPECT_EQ(collection.at(1001)->name, "again");
+    collection.remove_at(1);
+    EXPECT_EQ(collection.find("1"), nullptr);
+    EXPECT_EQ(collection.at(1)->name, "3");
+}
+
+TEST(Collection, RemovedAndAddedAgainUnderManyKeysEndsInTheNewOrder) {
+    Collection<Record> collection;
+    for (int i = 0; i < 50; ++i) collection.add(record(std::to_string(i)), std::to_string(i));
+    for (int i = 49; i >= 0; --i) {
+        const auto held = collection.item(std::to_string(i));
+        collection.remove(std::to_string(i));
+        collection.add(held, "n" + std::to_string(i));
+    }
+    EXPECT_EQ(collection.at(1)->name, "49");
+    EXPECT_EQ(collection.at(50)->name, "0");
+    EXPECT_EQ(collection.item("n7")->name, "7");
+}
+
+TEST(Collection, EmptiedOneStartsAnew) {
+    Collection<Record> collection;
+    for (int i = 0; i < 20; ++i) collection.add(record("x"), std::to_string(i));
+    for (int i = 0; i < 20; ++i) collection.remove(std::to_string(i));
+    EXPECT_TRUE(collection.empty());
+    collection.add(record("y"), "3");
+    EXPECT_EQ(names(collection), "y");
+}
+
+TEST(CollectionRef, DroppedOneIsEmptyAtItsNextUse) {
+    CollectionRef<Record> place;
+    place->add(record("a"), "a");
+    place.drop();
+    EXPECT_EQ(place.count(), 0U);
+    EXPECT_EQ(place->count(), 0U);
+}
+
+TEST(CollectionRef, CopySharesTheCollectionAlsoWhenItWasEmpty) {
+    CollectionRef<Record> unit;
+    const CollectionRef<Record> dialog = unit;
+    unit->add(record("a"), "a");
+    EXPECT_EQ(dialog.count(), 1U);
+    unit.drop();
+    EXPECT_EQ(dialog.count(), 1U);
+    EXPECT_EQ(unit.count(), 0U);
+}

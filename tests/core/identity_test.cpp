@@ -1,0 +1,35 @@
+#include "tests/support/program_test.h"
+
+#include <regex>
+
+using Identity = ProgramTest;
+
+TEST_F(Identity, NewGuidIsUpperCaseInBracesAndNeverTheSame) {
+    const std::string first = new_guid(platform);
+    const std::regex form("\\{[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}\\}");
+    EXPECT_TRUE(std::regex_match(first, form)) << first;
+    EXPECT_EQ(first.size(), 38U);
+    EXPECT_NE(first, new_guid(platform));
+}
+
+TEST_F(Identity, NoSourceOfChanceGivesAnEmptyGuid) {
+    platform.has_chance = false;
+    EXPECT_EQ(new_guid(platform), "");
+}
+
+TEST_F(Identity, EchelonsCompareByRank) {
+    EXPECT_EQ(compare_echelon("Army", "Corps"), "larger");
+    EXPECT_EQ(compare_echelon("Company", "Battalion"), "smaller");
+    EXPECT_EQ(compare_echelon("Squad", "Squad"), "equal");
+}
+
+TEST_F(Identity, BatteryRanksBelowTeam) {
+    EXPECT_EQ(compare_echelon("Team", "Battery"), "larger");
+    EXPECT_EQ(compare_echelon("Battery", "Team"), "smaller");
+}
+
+TEST_F(Identity, UnknownEchelonCompareToNothing) {
+    EXPECT_EQ(compare_echelon("", "Army"), std::nullopt);
+    EXPECT_EQ(compare_echelon("Army", ""), std::nullopt);
+    EXPECT_EQ(compare_echelon("army", "Army"), std::nullopt);
+}

@@ -1,0 +1,261 @@
+#include "program/frmStart.h"
+
+#include "program/about.h"
+#include "program/exit.h"
+#include "program/frmMain_load.h"
+#include "program/menus.h"
+#include "program/not_yet_built.h"
+#include "program/toolbar.h"
+#include "tests/support/program_test.h"
+
+#include <set>
+
+namespace {
+
+class Start : public ProgramTest {
+  protected:
+    Start() {
+        platform.directory = folder;
+        platform.map_height = 6102;
+    }
+
+    frmStart& splash() { return program.form<frmStart>(); }
+
+    void run() {
+        splash().Form_Load();
+        splash().tmrTimer_Timer();
+    }
+
+    std::size_t place_of(const std::string& entry) const {
+        const auto found = std::find(platform.log.begin(), platform.log.end(), entry);
+        EXPECT_NE(found, platform.log.end()) << entry;
+        return static_cast<std::size_t>(found - platform.log.begin());
+    }
+};
+
+} // namespace
+
+TEST_F(Start, SplashShowsItsTextsAndWaitsForTheTimer) {
+    splash().Form_Load();
+    EXPECT_EQ(splash().heading, "Velmora 2");
+    EXPECT_EQ(splash().version, "Version 1.0 - November 2003");
+    EXPECT_EQ(splash().progress, "Initializing, please wait...");
+    EXPECT_EQ(splash().tmrTimer.interval, 250);
+    EXPECT_TRUE(splash().tmrTimer.enabled);
+    EXPECT_TRUE(splash().visible);
+    EXPECT_TRUE(platform.waiting);
+    EXPECT_EQ(program.campaign.gAppPath, folder);
+    EXPECT_EQ(platform.log, (std::vector<std::string>{"hourglass on", "show frmStart"}));
+}
+
+TEST_F(Start, FirstTickLoadsTheMapThenOpensTheMainWindowAndHidesTheSplash) {
+    run();
+    EXPECT_EQ(program.campaign.gScreenW, 1366);
+    EXPECT_EQ(program.campaign.gScreenH, 768);
+    EXPECT_FALSE(splash().tmrTimer.enabled);
+    EXPECT_LT(place_of("load map " + folder + "\\map\\velmora2.jpg"), place_of("show frmMain"));
+    EXPECT_LT(place_of("show frmMain"), place_of("hide frmStart"));
+    EXPECT_TRUE(splash().loaded) << "hidden, not destroyed";
+    EXPECT_FALSE(platform.waiting);
+}
+
+TEST_F(Start, WorkAreaIsRoundedToWholePixels) {
+    platform.area = {20497.5, 11520, 15, 15}; // 1366.5 pixels
+    run();
+    EXPECT_EQ(program.campaign.gScreenW, 1366);
+}
+
+TEST_F(Start, MissingOrDamagedMapEndsTheProcessWithoutAMainWindow) {
+    for (const int number : {53, 481}) {
+        platform.fail_map = number;
+        platform.messages.clear();
+        platform.exit_code.reset();
+        run();
+        EXPECT_EQ(platform.texts(), std::vector<std::string>{"Run-time error " + std::to_string(number) +
+                                                             "\n" + folder + "\\map\\velmora2.jpg"});
+        EXPECT_EQ(platform.exit_code, 1);
+        EXPECT_EQ(std::count(platform.log.begin(), platform.log.end(), "show frmMain"), 0);
+        EXPECT_FALSE(splash().tmrTimer.enabled);
+    }
+}
+
+TEST_F(Start, FailureBeforeTheTimerAsksAndYesGoesOnWithTheNextStatement) {
+    platform.fail_directory = 76;
+    platform.answers = {Answer::yes};
+    splash().Form_Load();
+    ASSERT_EQ(platform.messages.size(), 1U);
+    EXPECT_EQ(platform.messages[0].text,
+              "Error number 76 when starting Tolvane II.\nDo you want me to try to "
+              "force the program to run?");
+    EXPECT_EQ(platform.messages[0].title, "Tolvane II");
+    EXPECT_EQ(platform.messages[0].buttons, Buttons::yes_no);
+    EXPECT_EQ(platform.messages[0].icon, Icon::question);
+    EXPECT_TRUE(splash().visible);
+}
+
+TEST_F(Start, NoAtThatQuestionUnloadsTheSplash) {
+    platform.fail_directory = 76;
+    platform.answers = {Answer::no};
+    frmStart& form = splash();
+    form.Form_Load();
+    EXPECT_FALSE(form.visible);
+    EXPECT_FALSE(form.loaded);
+}
+
+TEST_F(Start, ValuesAtTheEndAreTheStartValues) {
+    program.campaign.gShowGrid = true;
+    program.campaign.gDateMonth = "December";
+    program.main.drawing_lines = true;
+    program.campaign.gNextUnitIndex = 9;
+    run();
+    const Campaign& campaign = program.campaign;
+    const frmMain& main = program.main;
+    EXPECT_EQ(campaign.gMapEast0, 0);
+    EXPECT_EQ(campaign.gMapNorth0, 40);
+    EXPECT_EQ(campaign.gNextUnitIndex, 1);
+    EXPECT_EQ(campaign.gDefaultFont, "Arial") << "\"Arial Unicode\" is not the font";
+    EXPECT_EQ(campaign.gDateMonth, "November");
+    EXPECT_FALSE(campaign.gShowGrid || main.drawing_lines || main.saving_selected);
+    EXPECT_EQ(main.file_version, "1.0");
+    EXPECT_EQ(main.sbarMap.panels[1], "Current date/time: November 25, 1942 - 07:00");
+    EXPECT_EQ(campaign.gMapPicture, nullptr) << "the main window has taken it over";
+    EXPECT_EQ(main.picMap.width, 5376);
+    EXPECT_EQ(main.picMap.height, 6102);
+    EXPECT_TRUE(main.picMap.marked);
+}
+
+TEST_F(Start, HeightDecidesTheNorthNumber) {
+    for (const auto& [height, north] :
+         std::vector<std::pair<int, int>>{{6100, 40}, {5999, 39}, {6074, 40}, {6150, 41}}) {
+        platform.map_height = height;
+        run();
+        EXPECT_EQ(program.campaign.gMapNorth0, north);
+    }
+}
+
+TEST_F(Start, UnicodeFontBecomesTheDefaultWhereItIsInstalled) {
+    platform.font_names = {"Arial", "Arial Unicode MS", "Times"};
+    run();
+    EXPECT_EQ(program.campaign.gDefaultFont, "Arial Unicode MS");
+}
+
+TEST_F(Start, RulersAndOverviewBoxGetTheirPlaces) {
+    run();
+    const frmMain& main = program.main;
+    EXPECT_EQ(main.sbarMap.top, 768 - 28);
+    EXPECT_EQ(main.picHcoord.width, 5376);
+    EXPECT_EQ(main.picHcoord.top, 5);
+    EXPECT_EQ(main.picHcoord.left, 0);
+    EXPECT_EQ(main.picVcoord.height, 6102);
+    EXPECT_EQ(main.picVcoord.top, 0);
+    EXPECT_EQ(main.picVcoord.left, 3);
+    EXPECT_EQ(main.ruler_font.name, "MS Sans Serif");
+    EXPECT_EQ(main.ruler_font.size, 10);
+    EXPECT_TRUE(main.ruler_font.bold);
+    EXPECT_EQ(main.shpOverviewbox.left, 0);
+    EXPECT_EQ(main.shpOverviewbox.top, 0);
+}
+
+TEST_F(Start, EmptyDataFolderGivesFourMessagesAndARunningProgram) {
+    run();
+    EXPECT_EQ(platform.texts(),
+              (std::vector<std::string>{
+                  "Error! No Allied forces found in " + folder + "\\data\\forces\\allied forces\\",
+                  "Error! No Axis forces found in " + folder + "\\data\\forces\\axis forces\\",
+                  "Error 53 when loading force element types.", "Error 53 when loading towns data."}));
+    EXPECT_EQ(platform.log.back(), "hide frmStart");
+    EXPECT_TRUE(program.campaign.colUnitTypes.empty());
+}
+
+TEST_F(Start, ReferenceFilesAreReadInTheirOrder) {
+    for (const char* name : {"axis players", "allied players", "game masters", "towns", "forces/elements"})
+        write_file(std::string("data/") + name + ".txt", "");
+    run();
+    const auto read = [&](const std::string& name) { return place_of("read " + folder + "/data/" + name); };
+    EXPECT_LT(read("forces/elements.txt"), read("axis players.txt"));
+    EXPECT_LT(read("axis players.txt"), read("allied players.txt"));
+    EXPECT_LT(read("allied players.txt"), read("game masters.txt"));
+    EXPECT_LT(read("game masters.txt"), read("towns.txt"));
+}
+
+TEST_F(Start, FailureInTheMainLoadIsToldAndTheRestSkipped) {
+    platform.map_width = platform.map_height = 0;
+    program.campaign.gScreenW = 0;
+    program.campaign.gMapPicture = nullptr;
+    auto huge = std::make_shared<const QuietPlatform::Map>(100, 6000000);
+    program.campaign.gMapPicture = huge;
+    program.campaign.gDateMonth = "December";
+    frmMain_Load(program);
+    EXPECT_EQ(platform.texts().back(), "Error 6 when initializing.");
+    EXPECT_EQ(program.campaign.gDateMonth, "December");
+    EXPECT_FALSE(platform.waiting);
+}
+
+TEST_F(Start, ExitReleasesTheCampaignUnloadsEveryWindowAndTheMainWindowLast) {
+    run();
+    add_unit("a");
+    program.campaign.curUnit = program.campaign.colUnits->at(1);
+    cmdLegend_Click(program);
+    platform.messages.clear();
+    mnuExit_Click(program);
+    EXPECT_TRUE(program.campaign.colUnits.empty());
+    EXPECT_EQ(program.campaign.curUnit, nullptr);
+    EXPECT_LT(place_of("hide frmMapLegend"), place_of("unload frmMain"));
+    EXPECT_EQ(platform.log.back(), "unload frmMain");
+    EXPECT_FALSE(program.forms.at("frmStart")->loaded);
+    EXPECT_TRUE(platform.messages.empty()) << "nothing asks about unsaved work";
+}
+
+TEST_F(Start, CloseBoxRunsTheExitOnceAndTheProgramsOwnUnloadDoesNot) {
+    Form_QueryUnload(program, UnloadMode::by_program);
+    EXPECT_TRUE(platform.log.empty());
+    Form_QueryUnload(program, UnloadMode::close_box);
+    EXPECT_EQ(std::count(platform.log.begin(), platform.log.end(), "unload frmMain"), 1);
+}
+
+TEST_F(Start, FailingExitIsToldAndTheProcessEndsAtOnce) {
+    platform.fail_unload = 91;
+    mnuExit_Click(program);
+    ASSERT_EQ(platform.messages.size(), 1U);
+    EXPECT_EQ(platform.messages[0].text, "Error 91 when exiting.\nTrying to force the program to end.");
+    EXPECT_EQ(platform.messages[0].title, "Tolvane ][");
+    EXPECT_EQ(platform.messages[0].icon, Icon::warning);
+    EXPECT_EQ(platform.log.back(), "end at once");
+}
+
+TEST_F(Start, FixedWindowsShowTheirTexts) {
+    mnuAboutMap_Click(program);
+    mnuAboutTolvaneII_Click(program);
+    cmdLegend_Click(program);
+    EXPECT_EQ(platform.log,
+              (std::vector<std::string>{"show frmAboutMap", "show frmAboutTolvaneII", "show frmMapLegend"}));
+    EXPECT_EQ(program.form<frmAboutMap>().scale, "1:50,000 scale, with each grid square 1 km x 1 km");
+    const auto& about = program.form<frmAboutTolvaneII>();
+    EXPECT_EQ(about.heading, "Tolvane II");
+    EXPECT_EQ(about.version, "Version 1.0");
+    EXPECT_EQ(about.date, "November 2003");
+}
+
+TEST(Tables, EveryEntryHasACommandOrStandsInTheListOfThoseToCome) {
+    std::set<std::string> without;
+    for (const MenuRow& row : menu_rows())
+        if (row.click == nullptr && !opens_submenu(row)) without.insert(row.control);
+    for (const ToolbarRow& row : toolbar_rows())
+        if (row.click == nullptr) without.insert(row.control);
+    EXPECT_EQ(without, std::set<std::string>(not_yet_built.begin(), not_yet_built.end()));
+}
+
+TEST(Tables, NoControlStandsTwice) {
+    std::set<std::string> names;
+    for (const MenuRow& row : menu_rows()) EXPECT_TRUE(names.insert(row.control).second) << row.control;
+    for (const ToolbarRow& row : toolbar_rows()) EXPECT_TRUE(names.insert(row.control).second) << row.control;
+    EXPECT_EQ(names.size(), 52U);
+}
+
+TEST(Tables, SubmenusStandUnderTheirEntries) {
+    std::vector<std::string> under;
+    for (const MenuRow& row : menu_rows())
+        if (std::string(row.parent) == "mnuSaveUnits") under.emplace_back(row.caption);
+    EXPECT_EQ(under, (std::vector<std::string>{"Save Allied units...", "Save Axis units...", "Save all units",
+                                               "Save selected units..."}));
+}
