@@ -69,6 +69,9 @@ class Desktop {
         poll.start(20);
         opens();
         EXPECT_TRUE(answered) << "no dialog came";
+        // What a window manager does when a dialog has gone.
+        window()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window()));
     }
 
     QtPlatform platform;
