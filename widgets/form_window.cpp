@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QFocusEvent>
 #include <QFont>
 #include <QLabel>
 #include <QLineEdit>
@@ -101,9 +102,10 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         for (const FocusHandler& handler : focus_handlers)
             if (handler.widget == watched) {
                 handler.got_focus();
-                // After the click that gave the focus has placed its own cursor.
+                // A click that gives the focus places its own cursor first.
+                const bool clicked = static_cast<const QFocusEvent&>(*event).reason() == Qt::MouseFocusReason;
                 QMetaObject::invokeMethod(
-                    this, [this] { bring_in_step(); }, Qt::QueuedConnection);
+                    this, [this] { bring_in_step(); }, clicked ? Qt::QueuedConnection : Qt::DirectConnection);
             }
     return QDialog::eventFilter(watched, event);
 }

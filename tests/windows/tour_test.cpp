@@ -113,6 +113,7 @@ TEST_F(Tour, FromStartToExit) {
                             QTest::keyClick(north, Qt::Key_Return);
                         });
     EXPECT_EQ(desktop.program.campaign.gFindX, 2358);
+    EXPECT_EQ(desktop.program.campaign.gFindY, 2806);
     EXPECT_TRUE(main.shpFindgrid.visible);
     picture(desktop.window(), "08 location found");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !main.tmrTimer.enabled; }, 5000)) << "the marker blinks away";

@@ -276,7 +276,18 @@ void crosses(Canvas& c, int count) {
     }
 }
 
+/// Half the width of the echelon's sign.
+int half_width(const std::string& echelon) {
+    if (echelon == "Army") return 12;
+    if (echelon == "Corps" || echelon == "Platoon") return 9;
+    if (echelon == "Division" || echelon == "Regiment") return 7;
+    return 5;
+}
+
 void draw_echelon(Canvas& c, const std::string& echelon) {
+    // The sign is lost on dark colours without a light strip.
+    if (!echelon.empty())
+        c.fill(middle - half_width(echelon), 1, middle + half_width(echelon), 8, Canvas::paper);
     if (echelon == "Team") {
         c.ring(middle, 4, 2.6);
         c.line(middle - 3, 7, middle + 3, 1);
@@ -303,7 +314,6 @@ void draw_box(Canvas& canvas) {
 
 Canvas marker(const std::string& name, const std::string& echelon) {
     Canvas canvas;
-    canvas.fill(2, 1, 26, 8, Canvas::paper); // the echelon's sign is lost on dark colours without it
     draw_box(canvas);
     for (const Branch& branch : branches)
         if (holds(name, branch.word)) {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// One measured thing against another of the same run, and what their ratio must not exceed.
+struct Ratio {
+    std::string name;
+    std::string measured;
+    std::string against;
+    double limit;
+    double divisor = 1; // of the measured time, where it stands for more of the same
+};
+
+/// Runs the registered benchmarks, each several times in turn with the others, and prints the ratios of their
+/// medians. Answers 0 when all are within their limits.
+int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios);
