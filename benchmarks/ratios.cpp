@@ -41,7 +41,7 @@ int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios) {
                 if (run == name || run.rfind(name + "/", 0) == 0) return median;
             return 0.0;
         };
-        const double is = median_of(ratio.measured) / ratio.divisor / median_of(ratio.against);
+        const double is = median_of(ratio.measured) / median_of(ratio.against);
         const bool within = is <= ratio.limit;
         all_within = all_within && within;
         std::printf("%-46s %8.2f %8.2f %s\n", ratio.name.c_str(), is, ratio.limit, within ? "" : "TOO SLOW");

@@ -9,7 +9,6 @@ struct Ratio {
     std::string measured;
     std::string against;
     double limit;
-    double divisor = 1; // of the measured time, where it stands for more of the same
 };
 
 /// Runs the registered benchmarks, each several times in turn with the others, and prints the ratios of their

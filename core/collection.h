@@ -1,13 +1,12 @@
 #pragma once
 
 #include "core/failure.h"
+#include "core/key_index.h"
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -69,7 +68,7 @@ template <class T> class Collection {
         if (slot_of(key) != none) return false;
         slots.push_back({std::move(item), std::move(key), true});
         if (indexed())
-            index.emplace(slots.back().key, slots.size() - 1);
+            index.add(slots.back().key, slots.size() - 1);
         else if (slots.size() > largest_without_index)
             build_index();
         return true;
@@ -104,7 +103,7 @@ template <class T> class Collection {
     /// Fails with 5 when the key is absent.
     void remove(std::string_view key) {
         const std::size_t slot = present(key);
-        if (indexed()) index.erase(index.find(key)); // by iterator: erasing by view needs a newer standard
+        if (indexed()) index.remove(key, slot);
         slots[slot] = {};
         ++gaps;
         if (empty()) clear();
@@ -122,12 +121,7 @@ template <class T> class Collection {
     void reserve(std::size_t count) { slots.reserve(count); }
 
   private:
-    struct KeyHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>{}(key); }
-    };
-
-    static constexpr std::size_t none = static_cast<std::size_t>(-1);
+    static constexpr std::size_t none = KeyIndex::none;
     // Most collections belong to one unit and hold a handful of records: comparing so few keys is quicker
     // than hashing one, and thousands of units then carry no hash table.
     static constexpr std::size_t largest_without_index = 8;
@@ -135,10 +129,8 @@ template <class T> class Collection {
     bool indexed() const { return !index.empty(); }
 
     std::size_t slot_of(std::string_view key) const {
-        if (indexed()) {
-            const auto found = index.find(key);
-            return found == index.end() ? none : found->second;
-        }
+        if (indexed())
+            return index.find(key, [this](std::size_t slot) { return std::string_view(slots[slot].key); });
         for (std::size_t i = 0; i < slots.size(); ++i)
             if (slots[i].keyed && slots[i].key == key) return i;
         return none;
@@ -153,7 +145,7 @@ template <class T> class Collection {
     void build_index() const {
         index.clear();
         for (std::size_t i = 0; i < slots.size(); ++i)
-            if (slots[i].keyed) index.emplace(slots[i].key, i);
+            if (slots[i].keyed) index.add(slots[i].key, i);
     }
 
     void close_gaps() const {
@@ -168,7 +160,7 @@ template <class T> class Collection {
 
     // Closing gaps changes nothing that a caller can see, so a reader may do it.
     mutable std::vector<Slot> slots;
-    mutable std::unordered_map<std::string, std::size_t, KeyHash, std::equal_to<>> index;
+    mutable KeyIndex index;
     mutable std::size_t gaps = 0;
 };
 

@@ -93,7 +93,7 @@ class DiskOutput : public OutputFile {
         static_cast<void>(failure_of([this] { flush(); }));
     }
 
-    void write(const std::string& bytes) override {
+    void write(std::string_view bytes) override {
         buffer += bytes;
         if (buffer.size() >= block) flush();
     }

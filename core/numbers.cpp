@@ -105,14 +105,6 @@ template <class Whole> Whole checked(double rounded) {
     return static_cast<Whole>(rounded);
 }
 
-/// In plain decimal, however large or small: files have no exponents.
-template <class Number> void append_decimal(std::string& out, Number value) {
-    std::array<char, 400> buffer;
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
-    out.append(buffer.data(), end);
-}
-
 } // namespace
 
 double round_half_even(double value) {
@@ -189,11 +181,14 @@ std::string format_fixed(double value, int integer_digits, int decimals) {
     return (value < 0 && !nothing ? "-" : "") + integer + (decimals > 0 ? "." + fraction : "");
 }
 
-void append_single(std::string& out, float value) { append_decimal(out, value); }
-void append_double(std::string& out, double value) { append_decimal(out, value); }
+char* write_integer(char* to, std::int64_t value) {
+    return std::to_chars(to, to + longest_integer, value).ptr;
+}
 
-void append_integer(std::string& out, std::int64_t value) {
-    std::array<char, 24> buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-    out.append(buffer.data(), end);
+char* write_decimal(char* to, float value) {
+    return std::to_chars(to, to + longest_decimal, value, std::chars_format::fixed).ptr;
+}
+
+char* write_decimal(char* to, double value) {
+    return std::to_chars(to, to + longest_decimal, value, std::chars_format::fixed).ptr;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -49,7 +50,10 @@ std::string print_form(double value);
 /// from zero on the decimal value: (7, 2, 0) gives "07", (1.005, 1, 2) gives "1.01".
 std::string format_fixed(double value, int integer_digits, int decimals);
 
-/// The shortest digits that give the same value back, for files.
-void append_single(std::string& out, float value);
-void append_double(std::string& out, double value);
-void append_integer(std::string& out, std::int64_t value);
+/// Write the shortest plain decimal digits that give the same value back, without exponent, and answer where
+/// they end. There must be room for `longest_integer` or `longest_decimal` characters.
+char* write_integer(char* to, std::int64_t value);
+char* write_decimal(char* to, float value);
+char* write_decimal(char* to, double value);
+inline constexpr std::size_t longest_integer = 20;
+inline constexpr std::size_t longest_decimal = 400;

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 struct Form;
@@ -79,7 +80,7 @@ class OutputFile {
     OutputFile& operator=(const OutputFile&) = delete;
     virtual ~OutputFile() = default;
     /// Fails with 61 when the disk is full, else with 57.
-    virtual void write(const std::string& bytes) = 0;
+    virtual void write(std::string_view bytes) = 0;
     /// Fails like `write`; the file is closed all the same.
     virtual void close() = 0;
 };

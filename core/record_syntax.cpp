@@ -94,44 +94,62 @@ bool FieldReader::boolean() {
 
 bool FieldReader::at_end() const { return bytes.find_first_not_of(" \t\r\n", at) == std::string_view::npos; }
 
-void FieldWriter::separate() {
-    if (!first) written += ',';
+char* FieldWriter::next(std::size_t most) {
+    if (length + most > room.size()) room.resize(std::max(2 * room.size(), length + most));
+    return room.data() + length;
+}
+
+char* FieldWriter::next_field(std::size_t most) {
+    char* at = next(most + 1);
+    if (!first) *at++ = ',';
     first = false;
+    return at;
 }
 
 FieldWriter& FieldWriter::text(std::string_view value) {
-    separate();
-    written += '"';
-    written += value;
-    written += '"';
+    char* at = next_field(value.size() + 2);
+    *at++ = '"';
+    at = std::copy(value.begin(), value.end(), at);
+    *at++ = '"';
+    advance_to(at);
+    return *this;
+}
+
+FieldWriter& FieldWriter::text_with(char instead_of_quote, std::string_view value) {
+    text(value);
+    char* const end = room.data() + length - 1;
+    std::replace(end - value.size(), end, '"', instead_of_quote);
     return *this;
 }
 
 FieldWriter& FieldWriter::integer(std::int64_t value) {
-    separate();
-    append_integer(written, value);
+    char* const at = next_field(longest_integer);
+    advance_to(write_integer(at, value));
     return *this;
 }
 
 FieldWriter& FieldWriter::single(float value) {
-    separate();
-    append_single(written, value);
+    char* const at = next_field(longest_decimal);
+    advance_to(write_decimal(at, value));
     return *this;
 }
 
 FieldWriter& FieldWriter::double_number(double value) {
-    separate();
-    append_double(written, value);
+    char* const at = next_field(longest_decimal);
+    advance_to(write_decimal(at, value));
     return *this;
 }
 
 FieldWriter& FieldWriter::boolean(bool value) {
-    separate();
-    written += value ? "#TRUE#" : "#FALSE#";
+    const std::string_view word = value ? "#TRUE#" : "#FALSE#";
+    advance_to(std::copy(word.begin(), word.end(), next_field(word.size())));
     return *this;
 }
 
 void FieldWriter::end_record() {
-    written += "\r\n";
+    char* at = next(2);
+    *at++ = '\r';
+    *at++ = '\n';
+    advance_to(at);
     first = true;
 }

@@ -41,18 +41,25 @@ class FieldReader {
 class FieldWriter {
   public:
     FieldWriter& text(std::string_view value);
+    /// The text with another character in the place of each double quote.
+    FieldWriter& text_with(char instead_of_quote, std::string_view value);
     FieldWriter& integer(std::int64_t value);
     FieldWriter& single(float value);
     FieldWriter& double_number(double value);
     FieldWriter& boolean(bool value);
     void end_record();
 
-    const std::string& bytes() const { return written; }
-    void clear() { written.clear(); }
+    std::string_view bytes() const { return {room.data(), length}; }
+    void clear() { length = 0; }
 
   private:
-    void separate();
+    /// Where the next so many characters go, at the most; `advance_to` then tells where they end.
+    char* next(std::size_t most);
+    void advance_to(const char* end) { length = static_cast<std::size_t>(end - room.data()); }
+    /// The place behind the comma that a field needs, unless it is its record's first.
+    char* next_field(std::size_t most);
 
-    std::string written;
+    std::string room;
+    std::size_t length = 0;
     bool first = true;
 };

@@ -7,11 +7,6 @@
 // 247 in its place.
 inline constexpr char stored_quote = static_cast<char>(247);
 
-inline std::string with_quotes_stored(std::string text) {
-    std::replace(text.begin(), text.end(), '"', stored_quote);
-    return text;
-}
-
 inline std::string with_quotes_back(std::string text) {
     std::replace(text.begin(), text.end(), stored_quote, '"');
     return text;

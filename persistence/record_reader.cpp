@@ -10,7 +10,11 @@ namespace {
 
 std::string text_with_quotes(FieldReader& in) { return with_quotes_back(in.text()); }
 
+/// How much room to make for a list of this count: a count in a damaged file may be anything.
+std::size_t modest(int count) { return static_cast<std::size_t>(std::min(count, 64)); }
+
 void read_vertices(FieldReader& in, Collection<oCoordinates>& vertices, int count) {
+    vertices.reserve(modest(count));
     for (int i = 0; i < count; ++i) {
         auto vertex = std::make_shared<oCoordinates>();
         vertex->x_cor = in.long_integer();
@@ -101,10 +105,11 @@ std::shared_ptr<oWaypoint> read_waypoint(FieldReader& in) {
 template <class Record, class Read>
 void read_keyed(FieldReader& in, const CollectionRef<Record>& records, bool& duplicate_key, Read read) {
     const int count = in.int16();
+    if (count > 0) records->reserve(modest(count));
     for (int i = 0; i < count; ++i) {
         auto record = read(in);
-        const std::string key = record->ID;
-        if (!records->add_new(std::move(record), key)) duplicate_key = true;
+        std::string key = record->ID;
+        if (!records->add_new(std::move(record), std::move(key))) duplicate_key = true;
     }
 }
 

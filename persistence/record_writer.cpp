@@ -14,7 +14,7 @@ void write_children(FieldWriter& out, const oUnits& unit) {
     write_count(out, unit.children.count());
     if (unit.children.empty()) return;
     for (const auto& child : unit.children)
-        out.text(child->ID).text(with_quotes_stored(child->name)).end_record();
+        out.text(child->ID).text_with(stored_quote, child->name).end_record();
 }
 
 void write_force_elements(FieldWriter& out, const oUnits& unit) {
@@ -43,7 +43,7 @@ void write_waypoints(FieldWriter& out, const oUnits& unit) {
             .text(waypoint->end_month)
             .text(waypoint->end_year)
             .text(waypoint->ID)
-            .text(with_quotes_stored(waypoint->notes))
+            .text_with(stored_quote, waypoint->notes)
             .double_number(waypoint->speed)
             .text(waypoint->start_day)
             .text(waypoint->start_hour)
@@ -74,7 +74,7 @@ void write_label(FieldWriter& out, const oLabels& label) {
         .boolean(label.font_strikethru)
         .boolean(label.font_underline)
         .text(label.ID)
-        .text(with_quotes_stored(label.text))
+        .text_with(stored_quote, label.text)
         .integer(label.xcoord)
         .integer(label.ycoord)
         .end_record();
@@ -101,14 +101,14 @@ void write_unit(FieldWriter& out, const oUnits& unit) {
         .integer(unit.color)
         .text(unit.echelon)
         .text(unit.gm_email)
-        .text(with_quotes_stored(unit.gm_name))
+        .text_with(stored_quote, unit.gm_name)
         .text(unit.ID)
-        .text(with_quotes_stored(unit.name))
+        .text_with(stored_quote, unit.name)
         .text(unit.nationality)
         .text(unit.parent_ID)
-        .text(with_quotes_stored(unit.parent_name))
+        .text_with(stored_quote, unit.parent_name)
         .text(unit.player_email)
-        .text(with_quotes_stored(unit.player_name))
+        .text_with(stored_quote, unit.player_name)
         .text(unit.symbol)
         .text(unit.unittype)
         .integer(unit.xcoord)
@@ -133,7 +133,7 @@ void write_shape(FieldWriter& out, const oShapes& shape) {
         .integer(shape.fillcolor)
         .integer(shape.height)
         .text(shape.ID)
-        .text(with_quotes_stored(shape.notes))
+        .text_with(stored_quote, shape.notes)
         .integer(shape.notescolor)
         .text(shape.notesfont)
         .boolean(shape.notesfontbold)
@@ -154,7 +154,7 @@ void write_polygon(FieldWriter& out, const oPolygons& polygon) {
         .integer(polygon.fillcolor)
         .integer(polygon.fontcolor)
         .text(polygon.ID)
-        .text(with_quotes_stored(polygon.notes))
+        .text_with(stored_quote, polygon.notes)
         .end_record();
     write_vertices(out, polygon.coordinates);
 }

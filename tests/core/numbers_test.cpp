@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 
 namespace {
@@ -125,23 +126,21 @@ TEST(Numbers, FormatPadsAndRoundsHalvesAwayFromZero) {
     EXPECT_EQ(format_fixed(9.996, 1, 2), "10.00");
 }
 
-TEST(Numbers, FilesHoldTheShortestDigitsOfEachWidth) {
-    std::string out;
-    append_single(out, 0.1F);
-    EXPECT_EQ(out, "0.1");
-    out.clear();
-    append_double(out, 4.7);
-    EXPECT_EQ(out, "4.7");
-    out.clear();
-    append_double(out, 100000);
-    EXPECT_EQ(out, "100000");
-    out.clear();
-    append_double(out, 0.00001);
-    EXPECT_EQ(out, "0.00001");
-    out.clear();
-    append_single(out, std::numeric_limits<float>::max());
-    EXPECT_EQ(to_single(to_double(out)), std::numeric_limits<float>::max());
-    out.clear();
-    append_integer(out, -2147483633);
-    EXPECT_EQ(out, "-2147483633");
+TEST(Numbers, FilesHoldTheShortestPlainDigitsOfEachWidth) {
+    const auto written = [](auto value) {
+        std::array<char, longest_decimal> room{};
+        return std::string(room.data(), write_decimal(room.data(), value));
+    };
+    EXPECT_EQ(written(0.1F), "0.1");
+    EXPECT_EQ(written(4.7), "4.7");
+    EXPECT_EQ(written(100000.0), "100000");
+    EXPECT_EQ(written(0.00001), "0.00001");
+    EXPECT_EQ(to_single(to_double(written(std::numeric_limits<float>::max()))),
+              std::numeric_limits<float>::max());
+    for (const double extreme :
+         {std::numeric_limits<double>::max(), std::numeric_limits<double>::denorm_min()})
+        EXPECT_EQ(to_double(written(extreme)), extreme);
+    std::array<char, longest_integer> room{};
+    EXPECT_EQ(std::string(room.data(), write_integer(room.data(), std::numeric_limits<std::int64_t>::min())),
+              "-9223372036854775808");
 }

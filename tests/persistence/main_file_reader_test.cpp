@@ -41,7 +41,7 @@ class MainFileReader : public ProgramTest {
         FieldWriter out;
         write_count(out, records.size());
         for (const Record& record : records) write(out, record);
-        return out.bytes();
+        return std::string(out.bytes());
     }
 
     static std::string labels(const std::vector<oLabels>& all) {
