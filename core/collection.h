@@ -25,16 +25,28 @@ template <class T> class Collection {
 
     class Iterator {
       public:
-        explicit Iterator(const Slot* slot) : slot(slot) {}
+        Iterator(const Slot* slot, const Slot* end) : slot(slot), end(end) {}
         const Item& operator*() const { return slot->item; }
         Iterator& operator++() {
             ++slot;
+            if (end - slot > look_ahead) fetch(slot[look_ahead].item.get());
             return *this;
         }
         bool operator!=(const Iterator& other) const { return slot != other.slot; }
 
       private:
+        // The records lie all over the memory. A walk asks for one a few steps before it gets there, so that
+        // it need not wait: a large campaign is then walked about as quickly, record for record, as a small
+        // one.
+        static constexpr std::ptrdiff_t look_ahead = 4;
+        static void fetch(const T* record) {
+            constexpr std::size_t line = 64;
+            const auto* const bytes = reinterpret_cast<const char*>(record);
+            for (std::size_t at = 0; at < sizeof(T); at += line) __builtin_prefetch(bytes + at);
+        }
+
         const Slot* slot;
+        const Slot* end;
     };
 
     std::size_t count() const { return slots.size() - gaps; }
@@ -43,9 +55,9 @@ template <class T> class Collection {
     /// A walk in order. The collection must not change meanwhile: a walk that changes it goes over `items()`.
     Iterator begin() const {
         close_gaps();
-        return Iterator(slots.data());
+        return Iterator(slots.data(), slots.data() + slots.size());
     }
-    Iterator end() const { return Iterator(slots.data() + slots.size()); }
+    Iterator end() const { return Iterator(slots.data() + slots.size(), slots.data() + slots.size()); }
 
     /// The records as they stand now.
     std::vector<Item> items() const {
@@ -88,6 +100,12 @@ template <class T> class Collection {
     Item find(std::string_view key) const {
         const std::size_t slot = slot_of(key);
         return slot == none ? nullptr : slots[slot].item;
+    }
+
+    /// The same for a short look, without a share in the record.
+    T* look_up(std::string_view key) const {
+        const std::size_t slot = slot_of(key);
+        return slot == none ? nullptr : slots[slot].item.get();
     }
 
     /// The record under the key. Fails with 5 when the key is absent.

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -12,33 +13,35 @@ namespace {
 int check_children(const Collection<oUnits>& units, oUnits& headquarters) {
     if (headquarters.children.empty()) return 0;
     int fixed = 0;
-    for (const auto& child : headquarters.children->items()) {
-        const auto unit = units.find(child->ID);
-        if (!unit) {
-            headquarters.children->remove(child->ID);
+    std::vector<std::string> wrong; // taken out when the walk is over, so that it misses no neighbour
+    for (const auto& child : headquarters.children) {
+        oUnits* const unit = units.look_up(child->ID);
+        if (unit == nullptr) {
+            wrong.push_back(child->ID);
         } else if (unit->parent_ID.empty()) {
             unit->parent_ID = headquarters.ID;
             unit->parent_name = headquarters.name;
             ++fixed;
         } else if (unit->parent_ID != headquarters.ID) {
-            headquarters.children->remove(child->ID);
+            wrong.push_back(child->ID);
             ++fixed;
         }
     }
+    for (const std::string& id : wrong) headquarters.children->remove(id);
     return fixed;
 }
 
 /// Repairs the upward link of one unit; answers how many errors that count were fixed.
 int check_parent(const Collection<oUnits>& units, oUnits& unit) {
     if (unit.parent_ID.empty()) return 0;
-    const auto headquarters = units.find(unit.parent_ID);
-    if (!headquarters) {
+    oUnits* const headquarters = units.look_up(unit.parent_ID);
+    if (headquarters == nullptr) {
         unit.parent_ID.clear();
         return 0;
     }
-    const bool added =
-        headquarters->children->add_new(std::make_shared<oChildren>(oChildren{unit.ID, unit.name}), unit.ID);
-    return added ? 1 : 0;
+    if (headquarters->children->contains(unit.ID)) return 0;
+    headquarters->children->add(std::make_shared<oChildren>(oChildren{unit.ID, unit.name}), unit.ID);
+    return 1;
 }
 
 /// The units while they are being renumbered: those that are done and those that wait.
