@@ -39,7 +39,7 @@ bool on_disk(const std::string& path) {
 
 /// The component as the directory spells it, or as given where nothing matches.
 std::string component_on_disk(const std::string& directory, const std::string& component) {
-    const std::string spelled = files::to_disk_name(component);
+    std::string spelled = files::to_disk_name(component);
     for (const std::string& name : {component, spelled})
         if (on_disk(directory + name)) return name;
     std::vector<std::string> names;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 struct Program;
@@ -39,7 +40,7 @@ struct Program {
     /// The form of this type, loaded if need be.
     template <class F> F& form() {
         std::unique_ptr<Form>& held = forms[F::form_name];
-        if (held && !held->loaded) retired.push_back(std::move(held));
+        if (held && !held->loaded) retired.push_back(std::exchange(held, nullptr));
         if (!held) held = std::make_unique<F>(*this);
         return static_cast<F&>(*held);
     }

@@ -26,7 +26,7 @@ constexpr std::array<StandIn, 4> stand_ins{{{"Arial", "Liberation Sans"},
 constexpr double pixels_per_point = 96.0 / 72.0;
 
 QString installed_name(const std::string& name) {
-    const QString wanted = to_qt(name);
+    QString wanted = to_qt(name);
     if (QFontDatabase::hasFamily(wanted)) return wanted;
     for (const StandIn& stand_in : stand_ins)
         if (wanted.compare(stand_in.name, Qt::CaseInsensitive) == 0 &&

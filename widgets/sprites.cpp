@@ -30,7 +30,7 @@ QImage read_symbol(const std::string& path) {
     QImageReader reader(&buffer);
     const QSize size = reader.size();
     if (size.width() > largest_side || size.height() > largest_side) throw Failure{failure::invalid_picture};
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     if (picture.isNull()) throw Failure{failure::invalid_picture};
     return picture;
 }

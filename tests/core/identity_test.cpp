@@ -1,13 +1,10 @@
 #include "tests/support/program_test.h"
 
-#include <regex>
-
 using Identity = ProgramTest;
 
 TEST_F(Identity, NewGuidIsUpperCaseInBracesAndNeverTheSame) {
     const std::string first = new_guid(platform);
-    const std::regex form("\\{[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}\\}");
-    EXPECT_TRUE(std::regex_match(first, form)) << first;
+    EXPECT_THAT(first, testing::MatchesRegex("\\{[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\}"));
     EXPECT_EQ(first.size(), 38U);
     EXPECT_NE(first, new_guid(platform));
 }

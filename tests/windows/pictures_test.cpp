@@ -74,7 +74,7 @@ TEST_F(Pictures, MissingMapIs53AndWhatIsNoPictureIs481) {
     EXPECT_EQ(number_of([&] { read_map(path("none.jpg")); }), 53);
     std::ofstream(path("text.jpg")) << "this is no picture";
     EXPECT_EQ(number_of([&] { read_map(path("text.jpg")); }), 481);
-    std::ofstream(path("empty.jpg"));
+    const std::ofstream empty(path("empty.jpg"));
     EXPECT_EQ(number_of([&] { read_map(path("empty.jpg")); }), 481);
 }
 

@@ -3,6 +3,12 @@
 #include "core/files.h"
 #include "core/record_syntax.h"
 
+QPointF from_kilometres(double east, double north, int map_height) {
+    constexpr int km = 150; // pixels; the lowest row of the grid is cut off
+    const int rows = map_height / km;
+    return {east * km, (rows - north) * km + 102};
+}
+
 std::vector<Place> read_places(const std::string& file, int map_height) {
     std::vector<Place> places;
     const std::string bytes = files::read(file);
@@ -16,8 +22,7 @@ std::vector<Place> read_places(const std::string& file, int map_height) {
         place.notes = QString::fromLatin1(in.text());
         place.population = in.int16();
         static_cast<void>(in.text());
-        const double north0 = map_height / 150;
-        place.point = {east * 150, (north0 - north) * 150 + 102};
+        place.point = from_kilometres(east, north, map_height);
         places.push_back(place);
     }
     return places;

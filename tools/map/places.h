@@ -19,5 +19,8 @@ struct Place {
     bool is_farm() const { return notes == "farmstead"; }
 };
 
+/// The pixel at a place given in kilometres from the south-west corner of the grid.
+QPointF from_kilometres(double east, double north, int map_height);
+
 /// Reads the gazetteer; grid references become pixels of a map of this height, as the program has them.
 std::vector<Place> read_places(const std::string& file, int map_height);

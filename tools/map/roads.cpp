@@ -8,7 +8,6 @@
 namespace {
 
 constexpr int cell = 20; // pixels
-constexpr double km = 150;
 
 struct Grid {
     explicit Grid(const Terrain& terrain)
@@ -19,12 +18,13 @@ struct Grid {
     const Terrain& terrain;
 
     int node(QPointF p) const {
-        const int x = std::clamp(static_cast<int>(p.x() / cell + 0.5), 0, columns - 1);
-        const int y = std::clamp(static_cast<int>(p.y() / cell + 0.5), 0, rows - 1);
-        return y * columns + x;
+        const auto x = static_cast<int>(std::lround(p.x() / cell));
+        const auto y = static_cast<int>(std::lround(p.y() / cell));
+        return std::clamp(y, 0, rows - 1) * columns + std::clamp(x, 0, columns - 1);
     }
     QPointF point(int n) const {
-        return {static_cast<double>(n % columns * cell), static_cast<double>(n / columns * cell)};
+        const int row = n / columns;
+        return QPointF(QPoint(n % columns, row) * cell);
     }
 };
 
@@ -162,7 +162,7 @@ std::vector<QPointF> railway(int map_height) {
                                                               {32.5, 33.6},
                                                               {37.2, 36.2}}};
     std::vector<QPointF> points;
-    for (const auto& [east, north] : stops)
-        points.emplace_back(east * km, (map_height / 150 - north) * km + 102);
+    points.reserve(stops.size());
+    for (const auto& [east, north] : stops) points.push_back(from_kilometres(east, north, map_height));
     return smooth_curve(points, 8);
 }

@@ -265,7 +265,7 @@ void Sheet::settlement(const Place& place) {
     if (place.is_farm() || place.population < 60) {
         for (int i = 0; i < 4; ++i)
             painter.fillRect(
-                QRectF(place.point.x() - 8 + 7 * (i % 2), place.point.y() - 6 + 7 * (i / 2), 5, 4),
+                QRectF(place.point + QPointF(-8, -6) + QPointF(QPoint(i % 2, i / 2) * 7), QSizeF(5, 4)),
                 QColor(0x3B, 0x34, 0x30));
         return;
     }

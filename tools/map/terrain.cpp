@@ -1,19 +1,16 @@
 #include "tools/map/terrain.h"
 
+#include "tools/map/places.h"
+
 #include <algorithm>
 
 namespace {
 
-constexpr double km = 150;
-
-QPointF from_north(double east, double north, int height) {
-    return {east * km, (height / 150 - north) * km + 102};
-}
-
 std::vector<QPointF> river(const std::vector<std::pair<double, double>>& fixed, int height, double swing,
                            std::uint64_t seed) {
     std::vector<QPointF> points;
-    for (const auto& [east, north] : fixed) points.push_back(from_north(east, north, height));
+    points.reserve(fixed.size());
+    for (const auto& [east, north] : fixed) points.push_back(from_kilometres(east, north, height));
     std::vector<QPointF> curve = smooth_curve(points, 14);
     // Meanders between the fixed points, none at them: bridges stand there.
     for (QPointF& point : curve) {
@@ -74,7 +71,7 @@ void Terrain::shape_heights() {
             const QPointF down = near_main ? QPointF(0.6, 0.55) : QPointF(-0.6, 0.4);
             const double bank = noise(p.x(), p.y(), 900, 3) + (down.y() * p.x() - down.x() * p.y()) / 9000;
             const double reach = 330 + 170 * std::clamp(bank, -1.0, 1.0);
-            const double valley = 48 * ramp(distance, 50, 50 + reach * 2.4) + distance / km * 1.3;
+            const double valley = 48 * ramp(distance, 50, 50 + reach * 2.4) + distance / 150 * 1.3;
             const double away = ramp(distance, 90, 700);
             const double hills = 24 * noise(p.x(), p.y(), 1100, 5) + 15 * noise(p.x(), p.y(), 470, 6) +
                                  5 * noise(p.x(), p.y(), 210, 7) + 1.2 * noise(p.x(), p.y(), 95, 8);

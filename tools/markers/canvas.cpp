@@ -98,8 +98,8 @@ bool write_gif(const Canvas& canvas, const std::string& path) {
     bool written = EGifPutScreenDesc(gif, Canvas::width, Canvas::height, 2, 0, palette) == GIF_OK &&
                    EGifPutImageDesc(gif, 0, 0, Canvas::width, Canvas::height, false, nullptr) == GIF_OK;
     for (int y = 0; written && y < Canvas::height; ++y) {
-        std::vector<GifPixelType> row;
-        for (int x = 0; x < Canvas::width; ++x) row.push_back(canvas.at(x, y));
+        std::array<GifPixelType, Canvas::width> row{};
+        for (int x = 0; x < Canvas::width; ++x) row[static_cast<std::size_t>(x)] = canvas.at(x, y);
         written = EGifPutLine(gif, row.data(), Canvas::width) == GIF_OK;
     }
     GifFreeMapObject(palette);
