@@ -185,10 +185,19 @@ char* write_integer(char* to, std::int64_t value) {
     return std::to_chars(to, to + longest_integer, value).ptr;
 }
 
-char* write_decimal(char* to, float value) {
+namespace {
+
+/// Most decimals in a campaign are whole numbers of map pixels, and those are far quicker to write.
+template <class Decimal> char* write_whole_or_decimal(char* to, Decimal value) {
+    constexpr Decimal limit = 1 << 20;
+    if (value > -limit && value < limit) {
+        const auto whole = static_cast<std::int32_t>(value);
+        if (static_cast<Decimal>(whole) == value) return write_integer(to, whole);
+    }
     return std::to_chars(to, to + longest_decimal, value, std::chars_format::fixed).ptr;
 }
 
-char* write_decimal(char* to, double value) {
-    return std::to_chars(to, to + longest_decimal, value, std::chars_format::fixed).ptr;
-}
+} // namespace
+
+char* write_decimal(char* to, float value) { return write_whole_or_decimal(to, value); }
+char* write_decimal(char* to, double value) { return write_whole_or_decimal(to, value); }

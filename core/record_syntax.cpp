@@ -94,10 +94,7 @@ bool FieldReader::boolean() {
 
 bool FieldReader::at_end() const { return bytes.find_first_not_of(" \t\r\n", at) == std::string_view::npos; }
 
-char* FieldWriter::next(std::size_t most) {
-    if (length + most > room.size()) room.resize(std::max(2 * room.size(), length + most));
-    return room.data() + length;
-}
+void FieldWriter::grow(std::size_t most) { room.resize(std::max(2 * room.size(), length + most)); }
 
 char* FieldWriter::next_field(std::size_t most) {
     char* at = next(most + 1);

@@ -54,7 +54,11 @@ class FieldWriter {
 
   private:
     /// Where the next so many characters go, at the most; `advance_to` then tells where they end.
-    char* next(std::size_t most);
+    char* next(std::size_t most) {
+        if (length + most > room.size()) grow(most);
+        return room.data() + length;
+    }
+    void grow(std::size_t most);
     void advance_to(const char* end) { length = static_cast<std::size_t>(end - room.data()); }
     /// The place behind the comma that a field needs, unless it is its record's first.
     char* next_field(std::size_t most);
