@@ -79,6 +79,11 @@ struct PictureBox {
     double scale_height() const { return height - 2 * border; }
 };
 
+/// A picture box that shows a colour.
+struct ColourBox : PictureBox {
+    std::int32_t back_colour = 0;
+};
+
 /// A straight line over the map.
 struct LineControl {
     double x1 = 0;

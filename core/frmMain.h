@@ -8,6 +8,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <vector>
 
 /// The map, its window, rulers, scroll bars and find marker. Positions are client pixels counted from the
 /// upper edge of a toolbar row of 22 pixels.
@@ -31,6 +32,15 @@ struct MapPanel {
     ScrollBar scrlVMap{0, 0, 17, 0, 0, 0, 0, 1, 1};
     PictureBox picOverviewmap{4, 41, 224, 250, 0, true};
     ShapeControl shpOverviewbox{0, 0, 0, 0, true, 1};
+
+    // Scratch controls that the tools share.
+    LineControl linTempLine;
+    LineControl linTempLine2;
+    std::vector<ShapeControl> shpAnchor{ShapeControl{0, 0, 7, 7, false, 1}}; // the range tools' marks
+    ShapeControl shpRubberband;
+    ShapeControl shpTrayRubberband;
+    std::int16_t rubberband_x = 0; // where a band started; one pair for map and tray
+    std::int16_t rubberband_y = 0;
 
     ShapeControl shpFindgrid{0, 0, 33, 33, false, 3};
     LineControl linFindgridx;
@@ -134,8 +144,14 @@ struct SidePanels {
     PictureBox picPlaceShapes{0, 0, 0, 0, 0, false};
 };
 
+/// `picPolygons`: the polygon tool.
+struct PolygonPanel {
+    ColourBox picPolygonBordercolor;
+    ScrollBar scrlPolygonBorderthickness{0, 0, 0, 0, 1, 15, 1, 3, 1};
+};
+
 /// The main window: one name space put together from its panels.
-struct frmMain : MapPanel, Toolbar, Menus, RecordControls, SidePanels, ToolFlags {
+struct frmMain : MapPanel, Toolbar, Menus, RecordControls, SidePanels, PolygonPanel, ToolFlags {
     StatusBar sbarMap;
     double width = 0; // outer size in pixels
     double height = 0;

@@ -21,6 +21,7 @@ struct Painting {
     DrawingList hcoord;
     DrawingList vcoord;
     DrawingList overview;
+    int firefan_failure = 0; // fans have a message of their own
 };
 
 /// One layer of the map: it is painted when its gate is open, above all layers before it.

@@ -25,6 +25,8 @@ void picMap_Paint(Program& program) {
             if (layer.gate(program)) layer.paint(program, painting);
     });
     program.painting = std::move(painting);
+    if (program.painting.firefan_failure != 0)
+        show_failure(program, program.painting.firefan_failure, " when drawing firefans.");
     if (number != 0) show_failure(program, number, " when updating the map.");
 }
 

@@ -1,0 +1,64 @@
+#include "mapview/draw_units.h"
+
+#include "core/unit_place.h"
+
+namespace {
+
+void draw_subordinate_links(const Program& program, Surface& map, const oUnits& unit, std::size_t depth) {
+    if (depth > program.campaign.colUnits.count()) throw Failure{failure::out_of_stack};
+    if (unit.children.empty()) return;
+    for (const auto& child : unit.children) {
+        const oUnits& subordinate = *program.campaign.colUnits->item(child->ID);
+        map.line(place_of(unit), place_of(subordinate));
+        draw_subordinate_links(program, map, subordinate, depth + 1);
+    }
+}
+
+/// Runs `print(marker, unit)` in the look of names for each visible marker.
+template <class Print> void print_names(const Program& program, Surface& map, Print print) {
+    map.pen.FontSize = 8;
+    map.pen.FontBold = true;
+    map.pen.ForeColor = 0;
+    for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) {
+        const UnitMarker& marker = program.main.imgUnit(i);
+        if (!marker.visible || marker.tag == deleted_tag) continue;
+        print(marker, *program.campaign.colUnits->item(marker.tag));
+    }
+    map.pen.FontBold = false;
+}
+
+} // namespace
+
+bool hierarchy_is_shown(const Program& program) {
+    return program.main.hierarchy_on && program.campaign.curUnit != nullptr;
+}
+
+void draw_hierarchy(Program& program, Painting& painting) {
+    const oUnits& unit = *program.campaign.curUnit;
+    Surface& map = painting.map;
+    map.pen.DrawWidth = 3;
+    if (!unit.parent_ID.empty()) {
+        map.pen.ForeColor = 0xC00000;
+        map.line(place_of(unit), place_of(*program.campaign.colUnits->item(unit.parent_ID)));
+    }
+    map.pen.ForeColor = 0x8000;
+    draw_subordinate_links(program, map, unit, 0);
+    map.pen.DrawWidth = 1;
+    map.pen.ForeColor = 0;
+}
+
+bool unit_names_are_shown(const Program& program) { return program.campaign.gDispUnitNames; }
+
+void draw_unit_names(Program& program, Painting& painting) {
+    print_names(program, painting.map, [&](const UnitMarker& marker, const oUnits& unit) {
+        painting.map.print({marker.left, marker.top + marker.height}, unit.name);
+    });
+}
+
+bool unit_hq_names_are_shown(const Program& program) { return program.campaign.gDispUnitHQNames; }
+
+void draw_unit_hq_names(Program& program, Painting& painting) {
+    print_names(program, painting.map, [&](const UnitMarker& marker, const oUnits& unit) {
+        painting.map.print({marker.left + marker.width + 1, marker.top}, unit.parent_name);
+    });
+}

@@ -1,0 +1,52 @@
+#include "operations/draw_areas.h"
+
+#include "core/unit_place.h"
+
+namespace {
+
+void draw_area(Surface& map, const oUnits& unit) {
+    if (unit.area_of_opeartion.count() < 3) return;
+    std::vector<Point> corners;
+    for (const auto& vertex : unit.area_of_opeartion) corners.push_back(place_in_area(unit, *vertex));
+    map.pen.DrawMode = 9;
+    map.pen.FillStyle = 0;
+    map.pen.DrawWidth = 1;
+    map.pen.FillColor = unit.color;
+    map.pen.ForeColor = 0;
+    map.polygon(corners);
+}
+
+} // namespace
+
+bool area_is_being_drawn(const Program& program) {
+    const auto& unit = program.campaign.curUnit;
+    return unit && unit->area_of_opeartion.count() > 1 && program.main.drawing_aoo &&
+           program.main.linTempLine.visible;
+}
+
+void draw_area_being_drawn(Program& program, Painting& painting) {
+    const oUnits& unit = *program.campaign.curUnit;
+    painting.map.pen.DrawWidth = 1;
+    painting.map.pen.ForeColor = 0;
+    draw_path(painting.map, unit.area_of_opeartion,
+              [&](const oCoordinates& vertex) { return place_in_area(unit, vertex); });
+}
+
+bool selected_area_is_shown(const Program& program) {
+    const Campaign& campaign = program.campaign;
+    return campaign.curUnit && campaign.gDispAooSelected && campaign.gDispAoo && !program.main.drawing_aoo &&
+           program.main.picUnitInfo.visible;
+}
+
+void draw_selected_aoo(Program& program, Painting& painting) {
+    draw_area(painting.map, *program.campaign.curUnit);
+}
+
+bool all_areas_are_shown(const Program& program) {
+    return program.campaign.gDispAooAll && program.campaign.gDispAoo;
+}
+
+void draw_all_aoo(Program& program, Painting& painting) {
+    for (const auto& unit : program.campaign.colUnits)
+        if (!(program.main.drawing_aoo && unit == program.campaign.curUnit)) draw_area(painting.map, *unit);
+}

@@ -1,0 +1,64 @@
+#include "operations/draw_waypoints.h"
+
+#include "core/numbers.h"
+#include "core/unit_place.h"
+
+namespace {
+
+void draw_route(Surface& map, const oUnits& unit) {
+    map.pen.DrawWidth = 3;
+    map.pen.ForeColor = unit.color;
+    map.line(place_of(unit), place_of(*unit.waypoints->at(1)));
+    draw_path(map, unit.waypoints, [](const oWaypoint& waypoint) { return place_of(waypoint); });
+}
+
+void print_waypoint(Surface& map, const oWaypoint& waypoint) {
+    const Point at = place_of(waypoint);
+    map.pen.FontBold = true;
+    map.pen.ForeColor = 0;
+    map.print({at.x - 60, at.y + 8}, waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour +
+                                         ":" + waypoint.end_minute);
+    map.print({at.x - 60, at.y + 20}, format_fixed(waypoint.range / 1000.0, 1, 2) + " Km, at " +
+                                          number_text(waypoint.speed) + " Km/H");
+    map.print({at.x - 60, at.y + 32}, waypoint.notes);
+}
+
+void draw_unit_waypoints(const Program& program, Surface& map, const oUnits& unit) {
+    if (unit.waypoints.empty()) return;
+    draw_route(map, unit);
+    map.pen.DrawWidth = 1;
+    map.pen.ForeColor = 0;
+    map.pen.FillColor = 0;
+    map.pen.FillStyle = 0;
+    for (const auto& waypoint : unit.waypoints) {
+        map.circle(place_of(*waypoint), 3);
+        if (program.campaign.gDispWayptData) print_waypoint(map, *waypoint);
+    }
+    map.pen.FillStyle = 1;
+}
+
+} // namespace
+
+bool waypoints_are_being_set(const Program& program) {
+    const auto& unit = program.campaign.curUnit;
+    return unit && program.main.set_waypoints && program.main.linTempLine.visible && !unit->waypoints.empty();
+}
+
+void draw_waypoints_being_set(Program& program, Painting& painting) {
+    draw_route(painting.map, *program.campaign.curUnit);
+}
+
+bool waypoints_are_shown(const Program& program) { return program.campaign.gDispWaypoints; }
+
+void draw_waypoints(Program& program, Painting& painting) {
+    const Campaign& campaign = program.campaign;
+    Surface& map = painting.map;
+    if (campaign.gDispWayptAll) {
+        map.pen.DrawMode = 13;
+        for (const auto& unit : campaign.colUnits)
+            if (!(program.main.set_waypoints && unit == campaign.curUnit))
+                draw_unit_waypoints(program, map, *unit);
+    } else if (program.main.picUnitInfo.visible && campaign.gDispWayptSelected && campaign.curUnit) {
+        draw_unit_waypoints(program, map, *campaign.curUnit);
+    }
+}

@@ -1,0 +1,152 @@
+#include "operations/fire_fans.h"
+
+#include "annotation/draw_lines.h"
+#include "core/numbers.h"
+#include "core/trap.h"
+#include "core/unit_place.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr std::int16_t free_text_index = 999;
+constexpr std::int16_t artillery = 4;
+constexpr double pi = 3.14159265;
+constexpr double pixels_per_metre = 150 / 1000.0;
+
+constexpr std::int32_t red = 255;
+constexpr std::int32_t green = 0xFF00;
+constexpr std::int32_t blue = 0xFF0000;
+
+/// The catalogue's entry of an artillery piece, or nothing.
+const oForceElements* artillery_piece(const Program& program, const oUnitForceElements& element) {
+    if (element.Index == free_text_index) return nullptr;
+    const oForceElements& entry = *program.campaign.colForceElements->item(str(element.Index));
+    return entry.force_type == artillery ? &entry : nullptr;
+}
+
+/// Draws the piece's arc of 60 degrees around its bearing, or the full circle.
+void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element, const oForceElements& piece,
+                  double radius) {
+    surface.pen.DrawStyle = 0;
+    if (!piece.firefan) {
+        surface.circle(at, radius);
+        return;
+    }
+    int middle = 360 - element.FireFanAngle + 90; // counter-clockwise from the east
+    if (middle >= 360) middle -= 360;
+    int start = middle - 30;
+    if (start < 0) start += 360;
+    int end = middle + 30;
+    if (end > 359) end -= 360;
+    surface.pie(at, radius, start * pi / 180, end * pi / 180);
+}
+
+/// Runs `draw(element, piece)` for each artillery piece of the unit.
+template <class Draw> void for_each_piece(const Program& program, const oUnits& unit, Draw draw) {
+    if (unit.force_elements.empty()) return;
+    for (const auto& element : unit.force_elements)
+        if (const oForceElements* const piece = artillery_piece(program, *element)) draw(*element, *piece);
+}
+
+bool is_active(const Program& program, const oUnits& unit) {
+    return program.main.picUnitInfo.visible && program.campaign.curUnit.get() == &unit;
+}
+
+bool is_current(const Program& program, const oUnitForceElements& element) {
+    return program.campaign.curUFE.get() == &element;
+}
+
+void draw_on_overview(const Program& program, Surface& overview, const oUnits& unit,
+                      const oUnitForceElements& element, const oForceElements& piece, std::int32_t colour) {
+    const frmMain& main = program.main;
+    if (unit.img_index == 0) return; // it has no dot
+    const OverviewDot& dot = main.shpUnit(unit.img_index);
+    const double ratio = main.picOverviewmap.scale_width() / main.picMap.width;
+    overview.pen.DrawMode = 9;
+    overview.pen.FillStyle = 0;
+    overview.pen.FillColor = colour;
+    draw_firefan(overview, {dot.left + 1, dot.top + 2}, element, piece,
+                 ratio * piece.max_range * pixels_per_metre);
+}
+
+void draw_unit_on_overview(const Program& program, Surface& overview, const oUnits& unit) {
+    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
+        const std::int32_t side = unit.affiliation == "Allied" ? red : blue;
+        draw_on_overview(program, overview, unit, element, piece,
+                         is_current(program, element) ? green : side);
+    });
+}
+
+void draw_unit_firefans(const Program& program, Painting& painting, const oUnits& unit) {
+    Surface& map = painting.map;
+    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
+        map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
+        map.pen.FillColor = blue;
+        const bool current = is_current(program, element);
+        if (is_active(program, unit)) map.pen.FillColor = current ? green : red;
+        draw_firefan(map, place_of(unit), element, piece, piece.max_range * pixels_per_metre);
+        // The element in hand is to be seen on the overview whatever that one shows.
+        if (current && is_active(program, unit))
+            draw_on_overview(program, painting.overview, unit, element, piece, green);
+    });
+}
+
+/// Fans that can't be drawn leave the rest of the picture alone; the paint tells of them at its end.
+template <class Draw> void draw_fans(Painting& painting, Draw draw) {
+    const int number = failure_of(draw);
+    if (number != 0) painting.firefan_failure = number;
+}
+
+} // namespace
+
+bool has_firefan(const Program& program, const oUnitForceElements& element) {
+    const oForceElements* const piece = artillery_piece(program, element);
+    return piece != nullptr && piece->firefan;
+}
+
+std::int16_t firefan_angle(const oUnits& unit, double x, double y) {
+    const double dx = x - unit.xcoord;
+    const double dy = y - unit.ycoord; // down
+    if (dx == 0) return dy < 0 ? 0 : 180;
+    if (dy == 0) return dx > 0 ? 90 : 270;
+    const double t = std::atan(std::abs(dy) / std::abs(dx)) * 180 / pi;
+    const double side = dx > 0 ? 90 : 270;
+    const bool turns_back = (dx > 0) == (dy < 0);
+    return whole_int16(turns_back ? side - t : side + t);
+}
+
+void set_firefan_angle(Program& program, double x, double y) {
+    trap(program, " when moving firefans.", [&] {
+        const Campaign& campaign = program.campaign;
+        if (!campaign.curUFE || !campaign.curUnit) throw Failure{failure::no_object};
+        campaign.curUFE->FireFanAngle = firefan_angle(*campaign.curUnit, x, y);
+        program.main.picMap.Refresh();
+    });
+}
+
+void draw_overview(Program& program, Painting& painting) {
+    painting.overview.clear();
+    if (program.campaign.gDispOmFirefans)
+        draw_fans(painting, [&] {
+            for (const auto& unit : program.campaign.colUnits)
+                draw_unit_on_overview(program, painting.overview, *unit);
+        });
+    if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting.overview);
+}
+
+bool firefans_are_shown(const Program& program) { return program.campaign.gDispFirefans; }
+
+void draw_firefans(Program& program, Painting& painting) {
+    const Campaign& campaign = program.campaign;
+    if (program.main.picUnitInfo.visible && campaign.gDispFirefansSelected) {
+        painting.map.pen.ForeColor = red;
+        if (campaign.curUnit)
+            draw_fans(painting, [&] { draw_unit_firefans(program, painting, *campaign.curUnit); });
+    } else if (campaign.gDispFirefansAll) {
+        painting.map.pen.ForeColor = blue;
+        draw_fans(painting, [&] {
+            for (const auto& unit : campaign.colUnits) draw_unit_firefans(program, painting, *unit);
+        });
+    }
+}
