@@ -1,0 +1,179 @@
+#include "operations/fire_fans.h"
+
+#include "mapview/painting.h"
+#include "tests/support/figures.h"
+#include "tests/support/program_test.h"
+
+#include <numbers>
+
+namespace {
+
+using Told = std::vector<std::string>;
+
+class FireFans : public ProgramTest {
+  protected:
+    FireFans() {
+        add_entry(12, 4, true, 4000);
+        add_entry(13, 4, false, 2000);
+        add_entry(14, 5, true, 1000);
+        unit = add_unit("{1}");
+        unit->xcoord = 1000;
+        unit->ycoord = 2000;
+        unit->affiliation = "Allied";
+        unit->img_index = 1;
+        program.main.imgUnit.load(1);
+        OverviewDot& dot = program.main.shpUnit.load(1);
+        dot.left = 40;
+        dot.top = 80;
+        program.main.mnuOVPU_showlines.checked = false;
+    }
+
+    void add_entry(int number, int force_type, bool firefan, int range) {
+        auto entry = std::make_shared<oForceElements>();
+        entry->ID = static_cast<std::int16_t>(number);
+        entry->force_type = static_cast<std::int16_t>(force_type);
+        entry->firefan = firefan;
+        entry->max_range = static_cast<std::int16_t>(range);
+        program.campaign.colForceElements->add(entry, " " + std::to_string(number));
+    }
+
+    std::shared_ptr<oUnitForceElements> add_element(int index, int angle = 0) {
+        auto element = std::make_shared<oUnitForceElements>();
+        element->ID = "{F" + std::to_string(unit->force_elements.count()) + "}";
+        element->Index = static_cast<std::int16_t>(index);
+        element->FireFanAngle = static_cast<std::int16_t>(angle);
+        unit->force_elements->add(element, element->ID);
+        return element;
+    }
+
+    /// Start and end of the fan in whole degrees.
+    std::pair<int, int> arc(int angle) {
+        unit->force_elements.drop();
+        add_element(12, angle);
+        painting.map.clear();
+        draw_firefans(program, painting);
+        const auto& figure = painting.map.figures().at(0);
+        const double degrees = 180 / std::numbers::pi;
+        return {to_long(figure.start * degrees), to_long(figure.end * degrees)};
+    }
+
+    std::shared_ptr<oUnits> unit;
+    Painting painting;
+};
+
+} // namespace
+
+TEST_F(FireFans, OnlyArtilleryOfTheCatalogueWithAFanCanBeTurned) {
+    EXPECT_TRUE(has_firefan(program, *add_element(12)));
+    EXPECT_FALSE(has_firefan(program, *add_element(13))) << "full circle";
+    EXPECT_FALSE(has_firefan(program, *add_element(14))) << "no artillery";
+    EXPECT_FALSE(has_firefan(program, *add_element(999))) << "free text";
+}
+
+TEST_F(FireFans, AnglePointsFromTheUnitToThePointer) {
+    const std::vector<std::tuple<double, double, int>> rows{
+        {1000, 1900, 0},  {1000, 2100, 180}, {1000, 2000, 180}, {1100, 2000, 90}, {900, 2000, 270},
+        {1100, 1900, 45}, {1100, 2100, 134}, {900, 2100, 225},  {900, 1900, 314}};
+    for (const auto& [x, y, angle] : rows) EXPECT_NEAR(firefan_angle(*unit, x, y), angle, 1) << x << "," << y;
+    EXPECT_EQ(firefan_angle(*unit, 1000, 2000), 180);
+    EXPECT_EQ(firefan_angle(*unit, 1050.5, 2000), 90);
+}
+
+TEST_F(FireFans, TurningGoesToTheElementInHandAndRepaints) {
+    program.campaign.curUnit = unit;
+    program.campaign.curUFE = add_element(12);
+    set_firefan_angle(program, 1100, 2000);
+    EXPECT_EQ(program.campaign.curUFE->FireFanAngle, 90);
+    EXPECT_TRUE(program.main.picMap.marked);
+}
+
+TEST_F(FireFans, TurningWithNothingInHandIsTold) {
+    program.campaign.curUnit = unit;
+    set_firefan_angle(program, 1100, 2000);
+    EXPECT_EQ(platform.texts(), Told{"Error 91 when moving firefans."});
+}
+
+TEST_F(FireFans, SixtyDegreesAroundTheBearing) {
+    EXPECT_EQ(arc(0), std::pair(60, 120));
+    EXPECT_EQ(arc(90), std::pair(330, 30));
+    EXPECT_EQ(arc(120), std::pair(300, 0));
+    EXPECT_EQ(arc(180), std::pair(240, 300));
+    EXPECT_EQ(arc(270), std::pair(150, 210));
+}
+
+TEST_F(FireFans, RangeIsTheRadiusAndWithoutFanAFullCircle) {
+    add_element(12);
+    add_element(13);
+    add_element(14);
+    add_element(999);
+    draw_firefans(program, painting);
+    EXPECT_EQ(told(painting.map), (Told{"pie 1000,2000 r600", "circle 1000,2000 r300"}));
+}
+
+TEST_F(FireFans, OfAllUnitsAreBlueHatchedBySide) {
+    add_element(13);
+    painting.map.pen.DrawStyle = 3;
+    draw_firefans(program, painting);
+    EXPECT_EQ(told(painting.map.figures()[0].pen),
+              "fore 16711680 fill 16711680 style 2 dash 0 width 1 mode 13");
+    unit->affiliation = "Axis";
+    painting.map.clear();
+    draw_firefans(program, painting);
+    EXPECT_EQ(painting.map.figures()[0].pen.FillStyle, 3);
+}
+
+TEST_F(FireFans, ActiveUnitIsRedAndItsElementInHandGreenAlsoOnTheOverview) {
+    add_element(13);
+    program.campaign.curUFE = add_element(13);
+    program.campaign.curUnit = unit;
+    program.main.picUnitInfo.visible = true;
+    draw_firefans(program, painting);
+    ASSERT_EQ(painting.map.figures().size(), 2U);
+    EXPECT_EQ(painting.map.figures()[0].pen.FillColor, 255);
+    EXPECT_EQ(painting.map.figures()[1].pen.FillColor, 0xFF00);
+    ASSERT_EQ(told(painting.overview), Told{"circle 41,82 r12.5"});
+    EXPECT_EQ(told(painting.overview.figures()[0].pen), "fore 0 fill 65280 style 0 dash 0 width 1 mode 9");
+}
+
+TEST_F(FireFans, OfTheSelectedUnitOnlyWithItsPanelOpen) {
+    add_element(13);
+    program.campaign.gDispFirefansAll = false;
+    program.campaign.gDispFirefansSelected = true;
+    program.campaign.curUnit = unit;
+    draw_firefans(program, painting);
+    EXPECT_TRUE(painting.map.figures().empty());
+    program.main.picUnitInfo.visible = true;
+    draw_firefans(program, painting);
+    ASSERT_EQ(painting.map.figures().size(), 1U);
+    EXPECT_EQ(painting.map.figures()[0].pen.ForeColor, 255);
+}
+
+TEST_F(FireFans, OverviewShowsThemInTheColourOfTheSide) {
+    add_element(13);
+    painting.overview.line({0, 0}, {1, 1});
+    draw_overview(program, painting);
+    EXPECT_EQ(told(painting.overview), Told{"circle 41,82 r12.5"}) << "what was there is cleared";
+    EXPECT_EQ(painting.overview.figures()[0].pen.FillColor, 255);
+    unit->affiliation = "Axis";
+    draw_overview(program, painting);
+    EXPECT_EQ(painting.overview.figures()[0].pen.FillColor, 0xFF0000);
+    program.campaign.gDispOmFirefans = false;
+    draw_overview(program, painting);
+    EXPECT_TRUE(painting.overview.figures().empty());
+}
+
+TEST_F(FireFans, UnitWithoutAMarkerHasNoneOnTheOverview) {
+    add_element(13);
+    unit->img_index = 0;
+    draw_overview(program, painting);
+    EXPECT_TRUE(painting.overview.figures().empty());
+}
+
+TEST_F(FireFans, ElementThatTheCatalogueLacksIsToldOnceAndTheOtherLayersStand) {
+    add_element(77);
+    program.campaign.gDispFirefans = true;
+    program.campaign.gShowGrid = true;
+    picMap_Paint(program);
+    EXPECT_EQ(platform.texts(), Told{"Error 5 when drawing firefans."});
+    EXPECT_FALSE(program.painting.map.figures().empty());
+}
