@@ -25,6 +25,8 @@ char byte_of(char32_t character) {
 }
 
 unsigned char lower_case(unsigned char byte) {
+    if (byte == 0x8A || byte == 0x8C || byte == 0x8E) return static_cast<unsigned char>(byte + 0x10);
+    if (byte == 0x9F) return 0xFF;
     const bool ascii = byte >= 'A' && byte <= 'Z';
     const bool marked = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
     return ascii || marked ? static_cast<unsigned char>(byte + 0x20) : byte;

@@ -125,6 +125,27 @@ class DiskOutput : public OutputFile {
     std::string buffer;
 };
 
+struct Decoded {
+    char32_t character = 0;
+    std::size_t length = 0; // bytes; 0: no UTF-8
+};
+
+/// The character that a UTF-8 text begins with.
+Decoded decode_utf8(std::string_view text) {
+    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000}; // of each length
+    const auto lead = static_cast<unsigned char>(text.front());
+    if (lead < 0x80) return {lead, 1};
+    const std::size_t length = lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    if (length == 0 || length > text.size()) return {};
+    char32_t character = lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        const auto next = static_cast<unsigned char>(text[i]);
+        if ((next & 0xC0) != 0x80) return {};
+        character = character << 6 | (next & 0x3F);
+    }
+    return character < smallest[length] ? Decoded{} : Decoded{character, length};
+}
+
 } // namespace
 
 std::string files::to_disk_name(const std::string& text) {
@@ -147,18 +168,11 @@ std::string files::to_disk_name(const std::string& text) {
 
 std::string files::from_disk_name(const std::string& name) {
     std::string text;
-    for (std::size_t at = 0; at < name.size();) {
-        const auto lead = static_cast<unsigned char>(name[at]);
-        const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        if (length == 1 || at + length > name.size()) {
-            text += name[at++]; // plain, or no UTF-8: kept as it is
-            continue;
-        }
-        char32_t character = lead & (0x7FU >> length);
-        for (std::size_t i = 1; i < length; ++i)
-            character = character << 6 | (static_cast<unsigned char>(name[at + i]) & 0x3F);
-        text += byte_of(character);
-        at += length;
+    for (std::string_view rest = name; !rest.empty();) {
+        const Decoded next = decode_utf8(rest);
+        // What is no UTF-8 is kept as it is.
+        text += next.length == 0 ? rest.front() : byte_of(next.character);
+        rest.remove_prefix(std::max<std::size_t>(next.length, 1));
     }
     return text;
 }

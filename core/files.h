@@ -26,7 +26,7 @@ std::string read(const std::string& path);
 /// missing directory is an empty one; one that can't be read fails with 75.
 std::vector<std::string> list(const std::string& directory, const std::string& ending);
 /// Opens and empties the file. Fails with 75 when it can't be written, 76 when its directory is missing, 61
-/// when the disk is full, else 57.
+/// when the disk is full. Writing and closing fail with 61, else with 57.
 std::unique_ptr<OutputFile> open_for_output(const std::string& path);
 
 } // namespace files

@@ -21,8 +21,15 @@ struct Waiting {
 
 QRectF box(const MapControl& control) { return {control.left, control.top, control.width, control.height}; }
 
-bool in_view(const MapControl& control, const QRectF& wanted) {
-    return control.visible && control.container == Container::map && box(control).intersects(wanted);
+/// How far a control's paint reaches beyond its box.
+double margin(const UnitMarker& /*marker*/) { return 1; }
+double margin(const MapShape& shape) { return 1 + shape.border_width / 2.0; }
+double margin(const MapLabel& label) { return label.font.size; } // letters that lean out
+
+template <class Control> bool in_view(const Control& control, const QRectF& wanted) {
+    const double m = margin(control);
+    return control.visible && control.container == Container::map &&
+           box(control).adjusted(-m, -m, m, m).intersects(wanted);
 }
 
 void paint_marker(QPainter& painter, const UnitMarker& marker, const Sprites& sprites) {

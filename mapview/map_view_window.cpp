@@ -80,14 +80,26 @@ void MapView::paintEvent(QPaintEvent* event) {
     for (int i = 0; i < border; ++i) painter.drawRect(rect().adjusted(i, i, -i - 1, -i - 1));
 }
 
+bool MapView::is_over_map(QPointF point) const {
+    const double border = program.main.picMapwindow.border;
+    const QRectF inside = QRectF(rect()).adjusted(border, border, -border, -border);
+    const QRectF map(origin(), QSizeF(program.main.picMap.width, program.main.picMap.height));
+    return (inside & map).contains(point);
+}
+
 void MapView::mousePressEvent(QMouseEvent* event) {
+    const bool first_button = event->buttons() == event->button();
+    if (first_button) captured = is_over_map(event->position());
+    if (!captured) return;
     const MapPress press = map_press(*event, origin(), event->button());
-    pressed = hit_target(program, press.x, press.y).kind;
+    // The control that took the first button gets everything until the last one is let go.
+    if (first_button) pressed = hit_target(program, press.x, press.y).kind;
     events.run([&] { picMap_MouseDown(program, press); });
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     const MapPress press = map_press(*event, origin(), event->buttons());
+    if (press.button != 0 ? !captured : !is_over_map(event->position())) return;
     events.run_small([&] {
         // While a button is down the moves go to the control that was pressed.
         const TargetKind target = press.button != 0 ? pressed : hit_target(program, press.x, press.y).kind;
@@ -101,7 +113,7 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
     const MapPress press = map_press(*event, origin(), event->button());
     // A release over a marker or a label that was pressed has no effect of its own.
-    if (pressed == TargetKind::map) events.run([&] { picMap_MouseUp(program, press); });
+    if (captured && pressed == TargetKind::map) events.run([&] { picMap_MouseUp(program, press); });
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {

@@ -30,5 +30,8 @@ class MapView : public QWidget {
     Program& program;
     const Sprites& sprites;
     EventRunner& events;
+    bool is_over_map(QPointF point) const; // not over the border or the ground beside a small map
+
     TargetKind pressed = TargetKind::map;
+    bool captured = false; // the button that is down went down over the map
 };

@@ -32,7 +32,8 @@ void picMap_Paint(Program& program) {
 
 bool paint_if_marked(Program& program) {
     if (!program.main.picMap.marked) return false;
-    program.main.picMap.marked = false;
     picMap_Paint(program);
+    // Also when the paint's own message has marked the map again: it would be told for ever.
+    program.main.picMap.marked = false;
     return true;
 }

@@ -79,15 +79,19 @@ Answer to_answer(int button) {
 
 [[noreturn]] void cancelled() { throw Failure{failure::cancelled}; }
 
-/// The pointer of a dialog is not the hourglass, also when the dialog asks in the middle of a long command.
-class NormalPointer {
+/// While a dialog is open the pointer is not the hourglass, also when it asks in the middle of a long
+/// command; when it goes away the map under it is painted anew.
+class OpenDialog {
   public:
-    explicit NormalPointer(QtPlatform& platform) : platform(platform), waiting(platform.is_waiting()) {
+    explicit OpenDialog(QtPlatform& platform) : platform(platform), waiting(platform.is_waiting()) {
         platform.hourglass(false);
     }
-    NormalPointer(const NormalPointer&) = delete;
-    NormalPointer& operator=(const NormalPointer&) = delete;
-    ~NormalPointer() { platform.hourglass(waiting); }
+    OpenDialog(const OpenDialog&) = delete;
+    OpenDialog& operator=(const OpenDialog&) = delete;
+    ~OpenDialog() {
+        platform.hourglass(waiting);
+        platform.refresh_map();
+    }
 
   private:
     QtPlatform& platform;
@@ -115,8 +119,12 @@ QWidget* QtPlatform::parent_window() const {
     return main && main->isVisible() ? main.get() : QApplication::activeWindow(); // at start the splash
 }
 
+void QtPlatform::refresh_map() {
+    if (program != nullptr) program->main.picMap.Refresh();
+}
+
 Answer QtPlatform::message(const MessageBox& box) {
-    const NormalPointer pointer(*this);
+    const OpenDialog open(*this);
     QMessageBox dialog(to_qt_icon(box.icon), to_qt(box.title), to_qt(box.text), to_qt_buttons(box.buttons),
                        parent_window());
     dialog.setTextFormat(Qt::PlainText);
@@ -126,7 +134,7 @@ Answer QtPlatform::message(const MessageBox& box) {
 }
 
 std::optional<std::string> QtPlatform::input_box(const InputBox& box) {
-    const NormalPointer pointer(*this);
+    const OpenDialog open(*this);
     bool accepted = false;
     const QString text = QInputDialog::getText(parent_window(), to_qt(box.title), to_qt(box.prompt),
                                                QLineEdit::Normal, to_qt(box.text), &accepted);
@@ -135,7 +143,7 @@ std::optional<std::string> QtPlatform::input_box(const InputBox& box) {
 }
 
 std::string QtPlatform::file_dialog(const FileDialog& dialog) {
-    const NormalPointer pointer(*this);
+    const OpenDialog open(*this);
     const QString filter = to_qt(dialog.filter);
     const QString pattern = filter.section('|', 1, 1); // "tvn|*.tvn"
     QFileDialog window(parent_window(), to_qt(dialog.title), QString::fromStdString(dialog.directory),
@@ -150,14 +158,14 @@ std::string QtPlatform::file_dialog(const FileDialog& dialog) {
 }
 
 std::int32_t QtPlatform::colour_dialog(std::int32_t start) {
-    const NormalPointer pointer(*this);
+    const OpenDialog open(*this);
     const QColor chosen = QColorDialog::getColor(to_qt_colour(start), parent_window());
     if (!chosen.isValid()) cancelled();
     return from_qt_colour(chosen);
 }
 
 Font QtPlatform::font_dialog(const FontDialog& dialog) {
-    const NormalPointer pointer(*this);
+    const OpenDialog open(*this);
     QFont start(to_qt(dialog.font.name));
     start.setPointSizeF(dialog.font.size);
     start.setBold(dialog.font.bold);
@@ -184,7 +192,7 @@ FormWindow& QtPlatform::window_of(Form& form) {
 
 void QtPlatform::show_modal(Form& form) {
     FormWindow& window = window_of(form);
-    const NormalPointer pointer(*this);
+    const OpenDialog open(*this);
     window.exec();
 }
 

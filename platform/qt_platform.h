@@ -45,6 +45,8 @@ class QtPlatform : public Platform {
 
     frmMain_window* main_window() const { return main.get(); }
     bool is_waiting() const { return waiting; }
+    /// Marks the map for a new paint.
+    void refresh_map();
 
   private:
     QWidget* parent_window() const;

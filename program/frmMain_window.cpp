@@ -231,16 +231,21 @@ void frmMain_window::changeEvent(QEvent* event) {
     events.run([this] { Form_KeyUp(program, key::ctrl); });
 }
 
+bool frmMain_window::takes_keys(const QObject* watched) const {
+    // While a menu or the menu bar has the keyboard, arrows walk through it.
+    const bool in_menu = menuBar()->activeAction() != nullptr || QApplication::activePopupWidget() != nullptr;
+    return watched == windowHandle() && isActiveWindow() && !in_menu;
+}
+
 bool frmMain_window::eventFilter(QObject* watched, QEvent* event) {
     if (watched == area && event->type() == QEvent::Resize) fit_to_client();
-    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!key || watched != static_cast<QObject*>(windowHandle()) || !isActiveWindow())
-        return QMainWindow::eventFilter(watched, event);
+    const bool down = event->type() == QEvent::KeyPress;
+    if (!down && event->type() != QEvent::KeyRelease) return QMainWindow::eventFilter(watched, event);
     const auto& pressed = static_cast<const QKeyEvent&>(*event);
     const int code = key_code(pressed);
-    const bool down = event->type() == QEvent::KeyPress;
-    // A key that repeats is let go once, at its end.
-    if (!down && pressed.isAutoRepeat()) return false;
+    // A key that repeats is let go once, at its end. Ctrl may be let go in an open menu.
+    const bool lets_ctrl_go = !down && code == key::ctrl && control_down;
+    if ((!takes_keys(watched) && !lets_ctrl_go) || (!down && pressed.isAutoRepeat())) return false;
     if (code == key::ctrl) control_down = down;
     events.run([&] {
         if (down)

@@ -43,6 +43,7 @@ class frmMain_window : public QMainWindow {
     void make_toolbar();
     void make_map_area();
     void make_status_bar();
+    bool takes_keys(const QObject* watched) const;
     void fit_to_client();
     void place_map_area();
     void repaint_map_area();

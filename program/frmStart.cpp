@@ -38,22 +38,23 @@ void frmStart::Form_Load() {
 
 void frmStart::tmrTimer_Timer() {
     Campaign& campaign = program.campaign;
-    const WorkArea area = program.platform.work_area();
-    campaign.gScreenW = to_int16(area.width_twips / area.twips_per_pixel_x);
-    campaign.gScreenH = to_int16(area.height_twips / area.twips_per_pixel_y);
-    const std::string path = campaign.gAppPath + map_file;
-    const int number = failure_of([&] { campaign.gMapPicture = program.platform.load_map(path); });
-    if (number != 0) {
-        // Without the map there is nothing to show; half a map would be worse.
+    std::string path; // of the map, while it is being loaded
+    const int number = failure_of([&] {
+        const WorkArea area = program.platform.work_area();
+        campaign.gScreenW = to_int16(area.width_twips / area.twips_per_pixel_x);
+        campaign.gScreenH = to_int16(area.height_twips / area.twips_per_pixel_y);
+        path = campaign.gAppPath + map_file;
+        campaign.gMapPicture = program.platform.load_map(path);
+        path.clear();
         tmrTimer.enabled = false;
-        program.platform.message(
-            {"Run-time error " + std::to_string(number) + "\n" + program.platform.shown_path(path),
-             Icon::warning});
-        program.platform.end_process(1);
-        return;
-    }
+        frmMain_Load(program);
+        program.platform.show_main_window();
+        hide();
+    });
+    if (number == 0) return;
+    // Without the map there is nothing to show; half a map would be worse.
     tmrTimer.enabled = false;
-    frmMain_Load(program);
-    program.platform.show_main_window();
-    hide();
+    const std::string where = path.empty() ? "" : "\n" + program.platform.shown_path(path);
+    program.platform.message({"Run-time error " + std::to_string(number) + where, Icon::warning});
+    program.platform.end_process(1);
 }

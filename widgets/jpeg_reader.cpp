@@ -56,14 +56,6 @@ JpegReader::JpegReader(const std::string& bytes) : decoder(std::make_unique<Deco
 
 JpegReader::~JpegReader() = default;
 
-bool JpegReader::can_read(const std::string& bytes) {
-    if (!bytes.starts_with("\xFF\xD8\xFF")) return false;
-    Decoder header;
-    return header.read_header(bytes) &&
-           (header.info.jpeg_color_space == JCS_YCbCr || header.info.jpeg_color_space == JCS_GRAYSCALE ||
-            header.info.jpeg_color_space == JCS_RGB);
-}
-
 int JpegReader::width() const { return static_cast<int>(decoder->info.output_width); }
 int JpegReader::height() const { return static_cast<int>(decoder->info.output_height); }
 

@@ -14,9 +14,6 @@ class JpegReader {
     JpegReader& operator=(const JpegReader&) = delete;
     ~JpegReader();
 
-    /// Whether the bytes are a JPEG picture in grey or YCbCr, not one for printing.
-    static bool can_read(const std::string& bytes);
-
     int width() const;
     int height() const;
     void read_row(std::uint8_t* rgb);

@@ -5,10 +5,6 @@
 #include "widgets/area_scaler.h"
 #include "widgets/jpeg_reader.h"
 
-#include <QBuffer>
-#include <QByteArray>
-#include <QImageReader>
-
 namespace {
 
 constexpr int largest_side = 32767;
@@ -30,7 +26,10 @@ AreaScaler full_screen_scaler(const QSize& map) {
     return {map.width(), map.height(), full_screen_overview_size.width(), full_screen_overview_size.height()};
 }
 
-std::shared_ptr<const MapImage> read_jpeg_map(const std::string& bytes) {
+} // namespace
+
+std::shared_ptr<const MapImage> read_map(const std::string& path) {
+    const std::string bytes = files::read(path);
     JpegReader reader(bytes);
     const QSize size(reader.width(), reader.height());
     if (!sensible(size)) throw Failure{failure::invalid_picture};
@@ -44,24 +43,4 @@ std::shared_ptr<const MapImage> read_jpeg_map(const std::string& bytes) {
     }
     reader.finish();
     return with_overviews(std::move(map), scaler.take());
-}
-
-/// Pictures of other kinds take Qt's own, slower way.
-std::shared_ptr<const MapImage> read_other_map(const std::string& bytes) {
-    QByteArray array = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    QBuffer buffer(&array);
-    QImageReader reader(&buffer);
-    if (!sensible(reader.size())) throw Failure{failure::invalid_picture};
-    const QImage map = reader.read().convertToFormat(QImage::Format_RGB888);
-    if (map.isNull()) throw Failure{failure::invalid_picture};
-    AreaScaler scaler = full_screen_scaler(map.size());
-    for (int y = 0; y < map.height(); ++y) scaler.add_row(map.constScanLine(y));
-    return with_overviews(map, scaler.take());
-}
-
-} // namespace
-
-std::shared_ptr<const MapImage> read_map(const std::string& path) {
-    const std::string bytes = files::read(path);
-    return JpegReader::can_read(bytes) ? read_jpeg_map(bytes) : read_other_map(bytes);
 }

@@ -1,5 +1,7 @@
 #include "core/files.h"
 
+#include "core/code_page.h"
+
 #include "tests/support/program_test.h"
 
 #include <unistd.h>
@@ -29,6 +31,20 @@ TEST_F(Files, NamesBeyondAsciiAreUtf8OnTheDiskAndOneByteInTheProgram) {
     EXPECT_EQ(files::read(files::reference_path(folder + "\\J\xC4GER company.gif")), "x");
     EXPECT_EQ(files::from_disk_name("\xE2\x82\xAC\xD0\x96\xFFx"), "\x80?\xFFx");
     EXPECT_EQ(files::from_disk_name(files::to_disk_name("\x80\xE4z")), "\x80\xE4z");
+}
+
+TEST_F(Files, NamesThatAreNoUtf8AreKeptByteForByte) {
+    for (const char* name :
+         {"J\xE4ger Company.gif", "x\xE4.gif", "\xFFxyz.gif", "\xC0\xAFx.gif", "a\xE2\x82"}) {
+        EXPECT_EQ(files::from_disk_name(name), name);
+        write_file(name, "");
+        EXPECT_EQ(files::list(folder, "").size(), 1U) << name;
+        std::filesystem::remove(path(name));
+    }
+}
+
+TEST_F(Files, AllMarkedLettersMatchWithoutCase) {
+    EXPECT_EQ(lower_case("\x8A\x8C\x8E\x9F\xC4\xD7\xDE"), "\x9A\x9C\x9E\xFF\xE4\xD7\xFE");
 }
 
 TEST_F(Files, ListPassesOverDirectories) {

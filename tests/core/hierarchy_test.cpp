@@ -101,6 +101,51 @@ TEST_F(Hierarchy, ParentThatIsGoneIsForgottenSilentlyAndItsNameKept) {
     EXPECT_TRUE(platform.messages.empty());
 }
 
+TEST_F(Hierarchy, DownwardLinksOfAllUnitsAreRepairedBeforeUpwardOnes) {
+    const auto child = add_unit("a", "gone");
+    const auto hq = add_unit("H");
+    add_child(*hq, "a");
+    child->parent_name = "Gone HQ";
+    check_hierarchy(program);
+    EXPECT_TRUE(hq->children.empty()) << "the child still named another";
+    EXPECT_EQ(child->parent_ID, "");
+    EXPECT_EQ(child->parent_name, "Gone HQ");
+    EXPECT_EQ(platform.texts()[0], "Found and fixed a total of 1 errors in the unit hierarchy.");
+}
+
+TEST_F(Hierarchy, EntryThatIsTakenOutLeavesTheNameOfItsUnitsHq) {
+    const auto first = add_unit("H");
+    add_unit("K");
+    const auto child = add_unit("a", "K");
+    child->parent_name = "stale";
+    add_child(*first, "a");
+    check_hierarchy(program);
+    EXPECT_EQ(child->parent_name, "stale");
+}
+
+TEST_F(Hierarchy, MenuRepairsLinksBeforeItRenumbers) {
+    const auto hq = add_marked_unit("H");
+    const auto child = add_marked_unit("a", "H");
+    child->parent_name = "stale";
+    mnuChangeUnitID_Click(program);
+    EXPECT_EQ(platform.texts()[0], "Found and fixed a total of 1 errors in the unit hierarchy.");
+    expect_links_in_step();
+    EXPECT_EQ(hq->children->at(1)->name, "unit a") << "renumbering leaves the names of entries";
+    EXPECT_EQ(child->parent_name, "stale");
+}
+
+TEST_F(Hierarchy, RenumberingThreeLevelsChildFirst) {
+    const auto grandchild = add_marked_unit("c", "b");
+    const auto child = add_marked_unit("b", "a");
+    const auto hq = add_marked_unit("a");
+    add_child(*hq, "b");
+    add_child(*child, "c");
+    mnuChangeUnitID_Click(program);
+    expect_links_in_step();
+    EXPECT_EQ(grandchild->parent_ID, child->ID);
+    EXPECT_EQ(child->parent_ID, hq->ID);
+}
+
 TEST_F(Hierarchy, UpwardLinkAloneIsAddedAtTheEnd) {
     const auto hq = add_unit("H");
     add_unit("a", "H");

@@ -18,6 +18,12 @@ TEST_F(Identity, EchelonsCompareByRank) {
     EXPECT_EQ(compare_echelon("Army", "Corps"), "larger");
     EXPECT_EQ(compare_echelon("Company", "Battalion"), "smaller");
     EXPECT_EQ(compare_echelon("Squad", "Squad"), "equal");
+    const std::vector<const char*> ranks{"Army",    "Corps",   "Division", "Brigade", "Regiment", "Battalion",
+                                         "Company", "Platoon", "Squad",    "Team",    "Battery"};
+    for (std::size_t i = 1; i < ranks.size(); ++i) {
+        EXPECT_EQ(compare_echelon(ranks[i - 1], ranks[i]), "larger") << ranks[i];
+        EXPECT_EQ(compare_echelon(ranks[i], ranks[i - 1]), "smaller") << ranks[i];
+    }
 }
 
 TEST_F(Identity, BatteryRanksBelowTeam) {

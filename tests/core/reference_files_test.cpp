@@ -40,6 +40,10 @@ TEST_F(ReferenceFiles, EchelonComesFromTheFirstWordOfTheListAnywhereInTheName) {
     EXPECT_EQ(echelon_of_file_name("Brigade.gif"), "Brigade");
     EXPECT_EQ(echelon_of_file_name("regiment.gif"), "Regiment");
     EXPECT_EQ(echelon_of_file_name("platoon.gif"), "Platoon");
+    const std::vector<std::string> order{"Army",    "Corps",   "Division", "Brigade", "Regiment", "Battalion",
+                                         "Company", "Platoon", "Squad",    "Team",    "Battery"};
+    for (std::size_t i = 1; i < order.size(); ++i)
+        EXPECT_EQ(echelon_of_file_name(order[i] + " " + order[i - 1] + ".gif"), order[i - 1]);
 }
 
 TEST_F(ReferenceFiles, SameNameOnBothSidesIsTwoTypes) {
@@ -79,7 +83,19 @@ TEST_F(ReferenceFiles, FailureWhileReadingTypesIsTold) {
     add_picture("allied", "Foo.gif");
     add_picture("allied", "Foo.GIF"); // the same type twice
     load_unit_types(program);
-    EXPECT_EQ(platform.texts()[0], "Error 457 while loading unit-types.");
+    add_picture("axis", "Bar.gif");
+    platform.messages.clear();
+    program.campaign.colUnitTypes.drop();
+    load_unit_types(program);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 457 while loading unit-types."});
+    EXPECT_FALSE(program.campaign.colUnitTypes->contains("AxisBar")) << "the step ends";
+}
+
+TEST_F(ReferenceFiles, FolderThatCantBeReadIsTold) {
+    std::filesystem::create_directories(path("data/forces"));
+    std::filesystem::create_symlink("allied forces", path("data/forces/allied forces")); // leads to itself
+    load_unit_types(program);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 75 while loading unit-types."});
 }
 
 TEST_F(ReferenceFiles, CatalogueKeysAreNumbersWithALeadingBlank) {
@@ -144,6 +160,15 @@ TEST_F(ReferenceFiles, RostersTakeARepeatedNameOnceAndTheNextSaveDropsTheRow) {
     EXPECT_EQ(program.campaign.colGameMasters->at(3)->name, "C, D");
     save_user_data(program);
     EXPECT_EQ(file_bytes("data/game masters.txt"), "\"A\",\"a1\"\r\n\"B\",\"b\"\r\n\"C, D\",\"c\"\r\n");
+}
+
+TEST_F(ReferenceFiles, RepeatedPlayersCountOnceToo) {
+    write_file("data/axis players.txt", "\"A\",\"a1\"\r\n\"A\",\"a2\"\r\n");
+    write_file("data/allied players.txt", "\"B\",\"b1\"\r\n\"B\",\"b2\"\r\n");
+    load_user_data(program);
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(program.campaign.colGermanPlayers->item("A")->email, "a1");
+    EXPECT_EQ(program.campaign.colRussianPlayers->item("B")->email, "b1");
 }
 
 TEST_F(ReferenceFiles, MissingRostersAreSilentlyEmpty) {

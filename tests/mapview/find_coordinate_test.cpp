@@ -69,6 +69,19 @@ TEST_F(FindCoordinate, PointComesToTheMiddleAsFarAsTheMapReaches) {
     EXPECT_EQ(program.main.scrlVMap.value, 2556) << "3000 less half of 889, half to even";
 }
 
+TEST_F(FindCoordinate, HeightHasItsOwnEnds) {
+    for (const auto& [y, value] :
+         std::vector<std::pair<int, int>>{{444, 0}, {446, 2}, {5555, 5110}, {5556, 5115}, {6000, 5115}}) {
+        find(1000, static_cast<std::int16_t>(y));
+        EXPECT_EQ(program.main.scrlVMap.value, value) << y;
+    }
+}
+
+TEST_F(FindCoordinate, PointOnTheWestEdgeIsWithinTheMap) {
+    EXPECT_EQ(enter("0000", "2000"), "");
+    EXPECT_EQ(program.campaign.gFindX, 0);
+}
+
 TEST_F(FindCoordinate, MarkerStandsAroundThePoint) {
     find(1000, 2000);
     const frmMain& main = program.main;

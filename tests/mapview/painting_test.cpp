@@ -1,5 +1,6 @@
 #include "mapview/painting.h"
 
+#include "mapview/frmEnterCoord.h"
 #include "mapview/grid.h"
 #include "mapview/hit_target.h"
 #include "mapview/unit_marker.h"
@@ -135,6 +136,33 @@ TEST_F(MapPainting, RulersCountEastwardsAndNorthwards) {
     EXPECT_EQ(north[0].pen.ForeColor, 0xC00000);
     EXPECT_EQ(north[0].pen.FontSize, 10);
     EXPECT_TRUE(north[0].pen.FontBold);
+}
+
+TEST_F(MapPainting, GridAndUpperRulerRoundTheSizeToo) {
+    map_size(1290, 1130); // 8.6 and 7.53 kilometres
+    program.campaign.gShowGrid = true;
+    program.campaign.gMapEast0 = 3;
+    picMap_Paint(program);
+    EXPECT_EQ(program.painting.map.figures().size(), 10U + 7U);
+    const auto& east = program.painting.hcoord.figures();
+    ASSERT_EQ(east.size(), 9U);
+    EXPECT_EQ(east[0].text, "04");
+    EXPECT_EQ(east[0].pen.ForeColor, 0xC00000);
+    EXPECT_EQ(east[0].pen.FontSize, 10);
+    EXPECT_TRUE(east[0].pen.FontBold);
+}
+
+TEST_F(MapPainting, ClosedDialogIsOneRefresh) {
+    program.form<frmEnterCoord>().show_modal();
+    EXPECT_TRUE(program.main.picMap.marked);
+}
+
+TEST_F(MapPainting, MessageOfAPaintDoesNotAskForTheNext) {
+    program.paint_order = broken;
+    platform.on_message = [&](const MessageBox&) { program.main.picMap.Refresh(); };
+    program.main.picMap.Refresh();
+    EXPECT_TRUE(paint_if_marked(program));
+    EXPECT_FALSE(paint_if_marked(program));
 }
 
 TEST_F(MapPainting, RulersAreDrawnAnewByEachPaint) {

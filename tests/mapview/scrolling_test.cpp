@@ -180,10 +180,35 @@ TEST_F(Scrolling, RightClickWithoutMovementAndLeftButtonChangeNothing) {
     EXPECT_EQ(values(), At(700, 800));
 }
 
+TEST_F(Scrolling, EdgeMarginAtTheTopIsFivePixels) {
+    program.main.edge_scrolling = true;
+    start_at(500, 500);
+    edge_scroll(program, 900, 506);
+    EXPECT_EQ(values(), At(500, 500));
+}
+
+TEST_F(Scrolling, BoxTopFollowsTheHeights) {
+    program.main.picMap.height = 12000;
+    scroll_vertically_to(program, 4800);
+    EXPECT_EQ(program.main.shpOverviewbox.top, 4800 * 250 / 12000.0 - 3);
+}
+
+TEST_F(Scrolling, PointerBeyondSixteenBitsIsToldAsError6) {
+    picMap_MouseMove(program, {0, 0, 100, 32720});
+    picMap_MouseDown(program, {2, 0, 40000, 0});
+    EXPECT_EQ(platform.texts(),
+              (std::vector<std::string>{"Error 6 when moving the mouse.",
+                                        "Error 6 when pressing a mouse button on the map."}));
+}
+
 TEST_F(Scrolling, PanBeyondSixteenBitsIsToldAsError6) {
     program.main.popup_x = -32768;
     picMap_MouseUp(program, {2, 0, 100, 0});
     EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 6 when releasing a mouse button."});
+    program.main.popup_x = 0;
+    program.main.popup_y = -32768;
+    picMap_MouseUp(program, {2, 0, 0, 100});
+    EXPECT_EQ(platform.messages.size(), 2U);
 }
 
 TEST_F(Scrolling, MoveShowsTheReferenceAndLeavesCurrentY48TooLarge) {

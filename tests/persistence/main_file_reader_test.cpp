@@ -368,6 +368,106 @@ TEST_F(MainFileReader, FailedEndChecksNothingAndRaisesNothingButRefreshes) {
     EXPECT_FALSE(platform.waiting);
 }
 
+TEST_F(MainFileReader, LabelsLookIsTakenOverWhole) {
+    oLabels italic = label("{1}");
+    italic.font_italic = true;
+    oLabels underlined = label("{2}");
+    underlined.font_underline = true;
+    oLabels struck = label("{3}");
+    struck.font_strikethru = true;
+    load(labels({italic, underlined, struck}));
+    const auto look = [&](int index) {
+        const Font& font = program.main.lblUser(index).font;
+        return std::vector<bool>{font.italic, font.underline, font.strikethru};
+    };
+    EXPECT_EQ(look(1), (std::vector<bool>{true, false, false}));
+    EXPECT_EQ(look(2), (std::vector<bool>{false, true, false}));
+    EXPECT_EQ(look(3), (std::vector<bool>{false, false, true}));
+}
+
+TEST_F(MainFileReader, DuplicateLabelTakesNoControlAndNoIndex) {
+    load(labels({label("{L}"), label("{L}")}));
+    EXPECT_EQ(program.campaign.gNextLabelIndex, 2);
+    EXPECT_FALSE(program.main.lblUser.has(2));
+}
+
+TEST_F(MainFileReader, UnitWithADuplicateInItsListsGetsItsMarkerAllTheSame) {
+    const std::string twice = "\"{C}\",\"x\"\r\n";
+    oUnits parent = unit("{U}");
+    std::string bytes = units({parent});
+    const std::string lists = "0\r\n0\r\n0\r\n0\r\n" + zeros(3);
+    bytes.replace(bytes.size() - lists.size(), 3, "2\r\n" + twice + twice);
+    load(bytes);
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_TRUE(program.main.imgUnit.has(1));
+    EXPECT_EQ(program.campaign.gNextUnitIndex, 2);
+}
+
+TEST_F(MainFileReader, DotUsesTheRatioOfTheWidthsAndOnlyItsTopIsRounded) {
+    program.main.picMap.height = 3000;
+    oUnits odd = unit("{U}");
+    odd.xcoord = 100;
+    odd.ycoord = 109; // a 24th is 4.54
+    load(units({odd}));
+    EXPECT_DOUBLE_EQ(program.main.shpUnit(1).left, 100 * 224 / 5376.0);
+    EXPECT_EQ(program.main.shpUnit(1).top, 3);
+}
+
+TEST_F(MainFileReader, ShapeAndCaptionShowTheirRecord) {
+    oShapes shape;
+    shape.ID = "{S}";
+    shape.width = 91;
+    shape.height = 60;
+    shape.notes = "Depot";
+    shape.notesfont = "Arial";
+    shape.notesfontsize = 9;
+    shape.notesfontbold = true;
+    shape.notescolor = 77;
+    shape.fillcolor = 65535;
+    shape.bordercolor = 255;
+    load(shapes({shape}));
+    const MapShape& outline = program.main.shpShape(1);
+    EXPECT_EQ(outline.width, 91);
+    EXPECT_EQ(outline.height, 60);
+    EXPECT_EQ(outline.fill_colour, 65535);
+    EXPECT_EQ(outline.border_colour, 255);
+    EXPECT_TRUE(outline.visible);
+    EXPECT_GT(outline.depth, 0);
+    const MapLabel& caption = program.main.lblShapeLabel(1);
+    EXPECT_EQ(caption.caption, "Depot");
+    EXPECT_EQ(caption.colour, 77);
+    EXPECT_TRUE(caption.font.bold);
+    EXPECT_FALSE(caption.font.italic);
+    EXPECT_TRUE(caption.visible);
+}
+
+TEST_F(MainFileReader, AllLabelsAreRaisedAtAGoodEnd) {
+    program.main.lblUser.load(1).tag = deleted_tag;
+    program.main.lblUser.load(2).tag = "{old}";
+    program.campaign.gNextLabelIndex = 3;
+    load(units({unit("{U}")}));
+    for (const int index : {1, 2})
+        EXPECT_GT(program.main.lblUser(index).depth, program.main.imgUnit(1).depth) << index;
+}
+
+TEST_F(MainFileReader, PointerIsTheHourglassWhileLoading) {
+    bool waited = false;
+    platform.marker_failures[folder + "\\data\\forces\\a.gif"] = 53;
+    platform.on_message = [&](const MessageBox&) { waited = platform.waiting; };
+    load(units({unit("{U}")}));
+    EXPECT_TRUE(waited);
+    EXPECT_FALSE(platform.waiting);
+}
+
+TEST_F(MainFileReader, FontQuestionOffersUnderlineAndStrikeOut) {
+    platform.missing_fonts = {"Fraktur"};
+    platform.chosen_font = Font{"Times", 14, false, false, true, true};
+    oLabels missing = label("{1}");
+    missing.font_name = "Fraktur";
+    load(labels({missing}));
+    EXPECT_TRUE(platform.font_dialogs.at(0).with_effects);
+}
+
 TEST_F(MainFileReader, LoadNeverChangesTheVersionThatIsWritten) {
     load("\"beta 8\"\r\n\"1942\",\"November\",\"25\",\"07\",\"00\"\r\n" + zeros(6));
     EXPECT_EQ(program.main.file_version, "1.0");

@@ -201,6 +201,92 @@ TEST_F(MainFileWriter, SelectiveSaveWritesZeroForWhatIsLeftOut) {
     EXPECT_TRUE(save().find("{L}") != std::string::npos) << "a full save takes no notice of the choice";
 }
 
+TEST_F(MainFileWriter, EachBoxOfTheChoiceLeavesOutItsOwnKind) {
+    add_label("{L}", "x");
+    program.campaign.colLines->add(std::make_shared<oLines>());
+    add_unit("a");
+    program.campaign.colShapes->add(std::make_shared<oShapes>(), "s");
+    program.campaign.colPolygons->add(std::make_shared<oPolygons>(), "p");
+    add_mission("n");
+    using Box = CheckBox frmSaveSelect::*;
+    const std::vector<std::pair<Box, void (*)(Campaign&)>> kinds{
+        {&frmSaveSelect::chkSaveLabels, [](Campaign& c) { c.colLabels.drop(); }},
+        {&frmSaveSelect::chkSaveLines, [](Campaign& c) { c.colLines.drop(); }},
+        {&frmSaveSelect::chkSaveUnits, [](Campaign& c) { c.colUnits.drop(); }},
+        {&frmSaveSelect::chkSaveShapes, [](Campaign& c) { c.colShapes.drop(); }},
+        {&frmSaveSelect::chkSavePolygons, [](Campaign& c) { c.colPolygons.drop(); }},
+        {&frmSaveSelect::chkSaveFmissions, [](Campaign& c) { c.colFireMissions.drop(); }}};
+    for (const auto& [box, drop] : kinds) {
+        platform.on_modal["frmSaveSelect"] = [&box = box](Form& form) {
+            auto& select = static_cast<frmSaveSelect&>(form);
+            EXPECT_TRUE((select.*box).value);
+            (select.*box).value = false;
+            select.cmdOK_Click();
+        };
+        platform.chosen_files = {path("part.tvn")};
+        mnuSaveSelected_Click(program);
+        static_cast<SaveOptions&>(program.campaign) = {};
+        const CampaignCollections kept = program.campaign;
+        drop(program.campaign);
+        EXPECT_EQ(file_bytes("part.tvn"), save());
+        static_cast<CampaignCollections&>(program.campaign) = kept;
+    }
+}
+
+TEST_F(MainFileWriter, ChoiceIsWordedAsUsersKnowIt) {
+    auto& select = program.form<frmSaveSelect>();
+    EXPECT_EQ(select.heading, "Select objects to save");
+    EXPECT_EQ(select.title, "Tolvane ][");
+    program.campaign.gSaveLines = false;
+    select.unload();
+    EXPECT_FALSE(program.form<frmSaveSelect>().chkSaveLines.value) << "the boxes stand as the options do";
+}
+
+TEST_F(MainFileWriter, EveryKindOfObjectIsSomethingToSave) {
+    const std::vector<std::function<void(Campaign&)>> kinds{
+        [](Campaign& c) { c.colLines->add(std::make_shared<oLines>()); },
+        [](Campaign& c) { c.colLabels->add(std::make_shared<oLabels>(), "l"); },
+        [](Campaign& c) { c.colUnits->add(std::make_shared<oUnits>(), "u"); },
+        [](Campaign& c) { c.colShapes->add(std::make_shared<oShapes>(), "s"); },
+        [](Campaign& c) { c.colPolygons->add(std::make_shared<oPolygons>(), "p"); },
+        [](Campaign& c) { c.colFireMissions->add(std::make_shared<oFireMission>(), "f"); }};
+    for (const auto& add : kinds) {
+        static_cast<CampaignCollections&>(program.campaign) = {};
+        add(program.campaign);
+        save();
+        EXPECT_TRUE(platform.messages.empty());
+    }
+}
+
+TEST_F(MainFileWriter, SelectiveSaveOfAnEmptyCampaignAsksToo) {
+    platform.answers = {Answer::no};
+    mnuSaveSelected_Click(program);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{nothing_to_save});
+}
+
+TEST_F(MainFileWriter, RefusalByTheTrayEnablesNothingAndLooksAtEveryMarker) {
+    add_unit("a");
+    marker_in_tray("a").container = Container::map;
+    UnitMarker& second = program.main.imgUnit.load(2);
+    second.tag = "b";
+    second.container = Container::tray;
+    program.campaign.gNextUnitIndex = 3;
+    program.main.cmdLabel.enabled = false;
+    cmdSave_Click(program);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{units_in_tray});
+    EXPECT_FALSE(program.main.cmdLabel.enabled);
+}
+
+TEST_F(MainFileWriter, LinksAreCheckedBeforeTheFileIsEmptied) {
+    const auto hq = add_unit("H");
+    add_unit("a", "H");
+    write_file("campaign.tvn", "before");
+    platform.on_message = [&](const MessageBox&) { EXPECT_EQ(file_bytes("campaign.tvn"), "before"); };
+    save();
+    EXPECT_EQ(platform.messages.size(), 1U);
+    EXPECT_EQ(hq->children.count(), 1U);
+}
+
 TEST_F(MainFileWriter, SelectiveSaveWithAllBoxesOffWritesSixZeros) {
     add_unit("a");
     static_cast<SaveOptions&>(program.campaign) = {false, false, false, false, false, false};

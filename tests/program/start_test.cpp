@@ -1,5 +1,9 @@
 #include "program/frmStart.h"
 
+#include "core/hierarchy.h"
+#include "mapview/frmEnterCoord.h"
+#include "persistence/main_file_reader.h"
+#include "persistence/main_file_writer.h"
 #include "program/about.h"
 #include "program/exit.h"
 #include "program/frmMain_load.h"
@@ -79,6 +83,16 @@ TEST_F(Start, MissingOrDamagedMapEndsTheProcessWithoutAMainWindow) {
     }
 }
 
+TEST_F(Start, AnyFailureOfTheTickEndsTheProcessWithItsNumber) {
+    platform.fail_work_area = 6;
+    run();
+    ASSERT_EQ(platform.texts(), std::vector<std::string>{"Run-time error 6"});
+    EXPECT_EQ(platform.messages[0].title, "Tolvane ][");
+    EXPECT_EQ(platform.messages[0].icon, Icon::warning);
+    EXPECT_EQ(platform.exit_code, 1);
+    EXPECT_FALSE(splash().tmrTimer.enabled);
+}
+
 TEST_F(Start, FailureBeforeTheTimerAsksAndYesGoesOnWithTheNextStatement) {
     platform.fail_directory = 76;
     platform.answers = {Answer::yes};
@@ -122,6 +136,56 @@ TEST_F(Start, ValuesAtTheEndAreTheStartValues) {
     EXPECT_EQ(main.picMap.width, 5376);
     EXPECT_EQ(main.picMap.height, 6102);
     EXPECT_TRUE(main.picMap.marked);
+}
+
+TEST_F(Start, EveryValueThatWasDisturbedIsSetAnew) {
+    Campaign& campaign = program.campaign;
+    frmMain& main = program.main;
+    campaign.gMapEast0 = 5;
+    campaign.gNextLabelIndex = campaign.gNextShapeIndex = campaign.gNextUnitIndex = 7;
+    campaign.gDefaultFont = "Times";
+    static_cast<CampaignClock&>(campaign) = {"1", "2", "3", "4", "5"};
+    main.file_version = "0.1";
+    campaign.gUnitEdited = main.saving_selected = true;
+    campaign.placing_label = campaign.placing_fire_mission = true;
+    campaign.selecting_fire_mission = campaign.moving_fire_mission = true;
+    campaign.colLabels->add(std::make_shared<oLabels>());
+    campaign.gDispUnits = campaign.gDispAoo = campaign.gSaveUnits = campaign.gSaveLines = false;
+    campaign.gDispFirefans = campaign.gCopyColorCreate = campaign.gCopyColorEdit = true;
+    main.placing_shape = main.checking_range = main.setting_firefan = main.line_ended = true;
+    main.selected_point = 3;
+    main.selected_waypoint = "x";
+    run();
+    EXPECT_EQ(campaign.gMapEast0, 0);
+    EXPECT_EQ(campaign.gNextLabelIndex + campaign.gNextShapeIndex + campaign.gNextUnitIndex, 3);
+    EXPECT_EQ(campaign.gDefaultFont, "Arial");
+    EXPECT_EQ(campaign.gDateYear + campaign.gDateMonth + campaign.gDateDay + campaign.gDateHour +
+                  campaign.gDateMinute,
+              "1942November250700");
+    EXPECT_EQ(main.file_version, "1.0");
+    EXPECT_FALSE(campaign.gUnitEdited || main.saving_selected || campaign.placing_label ||
+                 campaign.placing_fire_mission || campaign.selecting_fire_mission ||
+                 campaign.moving_fire_mission || campaign.gDispFirefans || campaign.gCopyColorCreate ||
+                 campaign.gCopyColorEdit);
+    EXPECT_TRUE(campaign.gDispUnits && campaign.gDispAoo && campaign.gSaveUnits && campaign.gSaveLines);
+    EXPECT_TRUE(campaign.colLabels.empty());
+    EXPECT_FALSE(main.placing_shape || main.checking_range || main.setting_firefan || main.line_ended);
+    EXPECT_EQ(main.selected_point, 0);
+    EXPECT_EQ(main.selected_waypoint, "");
+}
+
+TEST_F(Start, MainWindowIsLaidOutForTheMapBeforeItIsShown) {
+    run();
+    const frmMain& main = program.main;
+    EXPECT_EQ(main.width, 1366);
+    EXPECT_EQ(main.height, 768);
+    EXPECT_EQ(main.picMapwindow.width, 1366 - 252 - 30);
+    EXPECT_EQ(main.scrlHMap.max, 5376 - main.picMapwindow.scale_width());
+    EXPECT_EQ(main.scrlVMap.max, 6102 - main.picMapwindow.scale_height());
+    EXPECT_EQ(main.shpOverviewbox.width, std::floor(224.0 / 5376 * main.picMapwindow.width) + 1);
+    EXPECT_EQ(main.picHcoord.height, main.picHcoordContainer.height);
+    EXPECT_EQ(main.picVcoord.width, main.picVcoordContainer.width);
+    EXPECT_LT(place_of("read " + folder + "/data/forces/elements.txt"), place_of("show frmMain"));
 }
 
 TEST_F(Start, HeightDecidesTheNorthNumber) {
@@ -195,12 +259,25 @@ TEST_F(Start, ExitReleasesTheCampaignUnloadsEveryWindowAndTheMainWindowLast) {
     run();
     add_unit("a");
     program.campaign.curUnit = program.campaign.colUnits->at(1);
-    cmdLegend_Click(program);
+    program.campaign.curLine = std::make_shared<oLines>();
+    program.campaign.colLines->add(program.campaign.curLine);
+    program.campaign.colTowns->add(std::make_shared<oTowns>());
+    program.campaign.colGameMasters->add(std::make_shared<oGameMasters>());
+    program.campaign.colSelectedUnits->add(program.campaign.curUnit, "a");
+    program.form<frmEnterCoord>().show();
+    program.form<frmAboutMap>().show();
+    program.form<frmMapLegend>().show();
     platform.messages.clear();
     mnuExit_Click(program);
     EXPECT_TRUE(program.campaign.colUnits.empty());
     EXPECT_EQ(program.campaign.curUnit, nullptr);
-    EXPECT_LT(place_of("hide frmMapLegend"), place_of("unload frmMain"));
+    EXPECT_TRUE(program.campaign.colUnitTypes.empty() && program.campaign.colTowns.empty() &&
+                program.campaign.colForceElements.empty() && program.campaign.colGameMasters.empty() &&
+                program.campaign.colLines.empty() && program.campaign.colSelectedUnits.empty());
+    EXPECT_EQ(program.campaign.curLine, nullptr);
+    EXPECT_LT(place_of("hide frmMapLegend"), place_of("hide frmAboutMap"));
+    EXPECT_LT(place_of("hide frmAboutMap"), place_of("hide frmEnterCoord"));
+    EXPECT_LT(place_of("hide frmEnterCoord"), place_of("unload frmMain"));
     EXPECT_EQ(platform.log.back(), "unload frmMain");
     EXPECT_FALSE(program.forms.at("frmStart")->loaded);
     EXPECT_TRUE(platform.messages.empty()) << "nothing asks about unsaved work";
@@ -243,6 +320,88 @@ TEST(Tables, EveryEntryHasACommandOrStandsInTheListOfThoseToCome) {
     for (const ToolbarRow& row : toolbar_rows())
         if (row.click == nullptr) without.insert(row.control);
     EXPECT_EQ(without, std::set<std::string>(not_yet_built.begin(), not_yet_built.end()));
+}
+
+using Wording = std::vector<std::pair<std::string, std::string>>;
+
+TEST(Tables, MenuEntriesAreWordedAsUsersKnowThem) {
+    Wording rows;
+    for (const MenuRow& row : menu_rows()) rows.emplace_back(row.control, row.caption);
+    EXPECT_EQ(rows, (Wording{
+                        {"mnuSaveSelected", "Save selected ..."},
+                        {"mnuSave", "Save main..."},
+                        {"mnuLoad", "Load main..."},
+                        {"mnuSaveUnits", "Save units"},
+                        {"mnuSaveAlliedUnits", "Save Allied units..."},
+                        {"mnuSaveAxisUnits", "Save Axis units..."},
+                        {"mnuSaveAllUnits", "Save all units"},
+                        {"mnuSaveSelectedUnits", "Save selected units..."},
+                        {"mnuLoadUnits", "Load units..."},
+                        {"mnuExit", "Exit"},
+                        {"mnuDeleteAll", "Delete everything..."},
+                        {"mnuDeleteSelected", "Delete selected units..."},
+                        {"mnuSetDisplay", "Set display options..."},
+                        {"mnuViewCompleteOOB", "Order Of Battle..."},
+                        {"mnuUnitState", "Unit overall state"},
+                        {"mnuShowHideUnits", "Units"},
+                        {"mnuRangeCircles", "Range circles"},
+                        {"mnuCheckHQSub", "Check && repair HQ/Subordiante links"},
+                        {"mnuChangeUnitID", "Change unit ID"},
+                        {"mnuOpt", "Options"},
+                        {"mnuLeaveAOO", "Leave AOO in place when moving units"},
+                        {"mnuListUnits", "List all units..."},
+                        {"mnuAboutTolvaneII", "About Tolvane II"},
+                        {"mnuAboutMap", "About the map"},
+                        {"mnuUP_delete", "Delete..."},
+                        {"mnuUP_edit", "Edit unit"},
+                        {"mnuUP_delete_all", "Delete all..."},
+                        {"mnuUP_moveto", "Move to..."},
+                        {"mnuViewFFoverview", "Show firefans"},
+                        {"mnuOVPU_showlines", "Show lines"},
+                        {"mnuOVPU_show_units", "Show units"},
+                    }));
+}
+
+TEST(Tables, ToolbarTipsAreWordedAsUsersKnowThem) {
+    Wording rows;
+    for (const ToolbarRow& row : toolbar_rows()) rows.emplace_back(row.control, row.tip);
+    EXPECT_EQ(rows, (Wording{
+                        {"cmdLoad", "Load main file"},
+                        {"cmdSave", "Save main file"},
+                        {"cmdCreateUnits", "Create new units"},
+                        {"cmdLabel", "Creat a map label."},
+                        {"cmdDrawLines", "Draw lines on the map"},
+                        {"cmdDrawPolygon", "Draw map areas (polygon)"},
+                        {"cmdCreateShapes", "Place a shape on the map."},
+                        {"cmdFireMissions", "Edit firemissions"},
+                        {"cmdFindCoord", "Find a location on the map."},
+                        {"cmdTownsData", "Locate towns and edit town data"},
+                        {"cmdRangecheck", "Find the range between two points."},
+                        {"cmdPathRange", "Find the accumulated range for a path."},
+                        {"cmdGrid", "Show/hide the map grid."},
+                        {"cmdEdgescroll", "Turn on/off edge-scrolling."},
+                        {"cmdSetDateTime", "Change date/time."},
+                        {"cmdEditGMPlayers", "Edit user data"},
+                        {"cmdUnitTray", "Temporary unit tray."},
+                        {"cmdShowFullscreen", "Display full-screen overview map."},
+                        {"cmdSavemap", "Save map to file."},
+                        {"cmdSnapshot", "Take a snapshot of the current visible part of the map"},
+                        {"cmdLegend", "Show map legend."},
+                    }));
+}
+
+TEST(Tables, EntriesRunTheirOwnCommands) {
+    const auto command = [](const std::string& control) {
+        for (const MenuRow& row : menu_rows())
+            if (control == row.control) return row.click;
+        return static_cast<void (*)(Program&)>(nullptr);
+    };
+    EXPECT_EQ(command("mnuCheckHQSub"), mnuCheckHQSub_Click);
+    EXPECT_EQ(command("mnuChangeUnitID"), mnuChangeUnitID_Click);
+    EXPECT_EQ(command("mnuSave"), mnuSave_Click);
+    EXPECT_EQ(command("mnuSaveSelected"), mnuSaveSelected_Click);
+    EXPECT_EQ(command("mnuLoad"), mnuLoad_Click);
+    EXPECT_EQ(command("mnuExit"), mnuExit_Click);
 }
 
 TEST(Tables, NoControlStandsTwice) {

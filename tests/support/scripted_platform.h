@@ -17,6 +17,7 @@ class ScriptedPlatform : public QuietPlatform {
     Answer message(const MessageBox& box) override {
         messages.push_back(box);
         log.push_back("message " + box.text);
+        if (on_message) on_message(box);
         if (answers.empty()) return QuietPlatform::message(box);
         const Answer answer = answers.front();
         answers.pop_front();
@@ -95,6 +96,7 @@ class ScriptedPlatform : public QuietPlatform {
     std::deque<std::string> chosen_files;
     std::optional<Font> chosen_font;
     std::map<std::string, std::function<void(Form&)>> on_modal;
+    std::function<void(const MessageBox&)> on_message;
     std::function<void()> before_file_dialog_answers;
     std::map<std::string, int> marker_failures;
     std::map<std::string, std::string> contents; // files that are not on the disk

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
@@ -109,6 +110,31 @@ TEST_F(MainWindow, LosingTheWindowCountsAsLettingCtrlGo) {
     main().imgUnit.unload_from(1);
 }
 
+TEST_F(MainWindow, LettingCtrlGoInAnOpenMenuShowsTheMarkersAgain) {
+    main().imgUnit.load(1).visible = true;
+    desktop->program.campaign.gNextUnitIndex = 2;
+    QTest::keyPress(desktop->window()->windowHandle(), Qt::Key_Control);
+    QWidget popup; // a window of its own, as a menu is
+    QKeyEvent released(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier);
+    QApplication::sendEvent(&popup, &released);
+    EXPECT_TRUE(main().imgUnit(1).visible);
+    desktop->program.campaign.gNextUnitIndex = 1;
+    main().imgUnit.unload_from(1);
+}
+
+TEST_F(MainWindow, ArrowsWalkThroughTheMenuBarWhileItHasTheKeyboard) {
+    auto* const bar = desktop->window()->findChild<QMenuBar*>();
+    bar->setActiveAction(bar->actions().at(0));
+    desktop->key(Qt::Key_Right);
+    EXPECT_EQ(main().scrlHMap.value, 0);
+    if (QWidget* const menu = QApplication::activePopupWidget()) menu->close();
+    bar->setActiveAction(nullptr);
+    desktop->window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(desktop->window()));
+    desktop->key(Qt::Key_Right);
+    EXPECT_EQ(main().scrlHMap.value, 40);
+}
+
 TEST_F(MainWindow, WheelMovesTheBarsBySmallSteps) {
     QWidget* const map = desktop->control("picMapwindow");
     QWheelEvent down({100, 100}, map->mapToGlobal(QPointF(100, 100)), {}, {0, -120}, Qt::NoButton,
@@ -135,6 +161,33 @@ TEST_F(MainWindow, PointerOverTheMapShowsItsReference) {
     QTest::mouseMove(map, QPoint(227, 104));
     QTest::qWait(10);
     EXPECT_EQ(desktop->control<QLabel>("panel1")->text(), "Eastern: 01.50 - Northern: 40.00");
+}
+
+TEST_F(MainWindow, PointerOverTheBorderIsNotOverTheMap) {
+    QWidget* const map = desktop->control("picMapwindow");
+    QTest::mouseMove(map, QPoint(227, 104));
+    QTest::mouseMove(map, QPoint(1, 104));
+    QTest::qWait(10);
+    EXPECT_EQ(desktop->control<QLabel>("panel1")->text(), "Eastern: 01.50 - Northern: 40.00");
+}
+
+TEST_F(MainWindow, SecondButtonTakesNothingFromTheFirst) {
+    QWidget* const map = desktop->control("picMapwindow");
+    UnitMarker& marker = main().imgUnit.load(1);
+    marker.visible = true;
+    marker.left = marker.top = 200;
+    marker.width = marker.height = 30;
+    QTest::mousePress(map, Qt::RightButton, {}, QPoint(302, 302));
+    const QPoint over_marker(212, 212);
+    const QPointF at(over_marker);
+    QMouseEvent press(QEvent::MouseButtonPress, at, map->mapToGlobal(at), Qt::LeftButton,
+                      Qt::LeftButton | Qt::RightButton, {});
+    QApplication::sendEvent(map, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, at, map->mapToGlobal(at), Qt::RightButton, Qt::LeftButton,
+                        {});
+    QApplication::sendEvent(map, &release);
+    EXPECT_EQ(main().scrlHMap.value, 90);
+    main().imgUnit.unload_from(1);
 }
 
 TEST_F(MainWindow, ResizeLaysTheMapOutAnew) {
