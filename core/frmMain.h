@@ -1,9 +1,11 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/line_panel.h"
 #include "core/map_controls.h"
 #include "core/platform.h"
 #include "core/tool_flags.h"
+#include "core/unit_info_panel.h"
 
 #include <array>
 #include <memory>
@@ -83,7 +85,12 @@ struct Toolbar {
     Button cmdSavemap;
     Button cmdSnapshot;
     Button cmdLegend;
+    Button cmdPlaceShape; // of the shape panel
 };
+
+/// The titles of the popup menus; all other titles stand in the menu bar.
+inline constexpr const char* unit_popup = "Unit menu";
+inline constexpr const char* overview_popup = "Overview Popup";
 
 /// The entries of the menu bar and of the two popup menus.
 struct Menus {
@@ -124,6 +131,7 @@ struct Menus {
 struct RecordControls {
     ControlArray<UnitMarker> imgUnit;
     ControlArray<OverviewDot> shpUnit;
+    ControlArray<StateBar> shpUnitState; // made while the bars are shown
     ControlArray<MapLabel> lblUser;
     ControlArray<MapShape> shpShape;
     ControlArray<MapLabel> lblShapeLabel;
@@ -135,10 +143,21 @@ struct RecordControls {
     long front = 0;
 };
 
+/// The marker in hand: the one last pressed, and where in it the pointer is.
+struct MarkerDrag {
+    int drag_index = 0;
+    double unit_grab_x = 0;
+    double unit_grab_y = 0;
+    double label_grab_x = 0;
+    double label_grab_y = 0;
+    bool dragging = false;
+};
+
 /// The panels that take turns beside the map.
 struct SidePanels {
     PictureBox picUnitInfo{4, 296, 224, 0, 0, false};
     PictureBox picUnitTray{0, 0, 0, 0, 0, false};
+    Button cmdUTClose;
     PictureBox picDrawLines{0, 0, 0, 0, 0, false};
     PictureBox picPolygons{0, 0, 0, 0, 0, false};
     PictureBox picPlaceShapes{0, 0, 0, 0, 0, false};
@@ -151,7 +170,16 @@ struct PolygonPanel {
 };
 
 /// The main window: one name space put together from its panels.
-struct frmMain : MapPanel, Toolbar, Menus, RecordControls, SidePanels, PolygonPanel, ToolFlags {
+struct frmMain : MapPanel,
+                 Toolbar,
+                 Menus,
+                 RecordControls,
+                 MarkerDrag,
+                 SidePanels,
+                 UnitInfoPanel,
+                 LinePanel,
+                 PolygonPanel,
+                 ToolFlags {
     StatusBar sbarMap;
     double width = 0; // outer size in pixels
     double height = 0;

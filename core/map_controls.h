@@ -50,6 +50,11 @@ struct OverviewDot {
     bool visible = false;
 };
 
+/// `shpUnitState`: the bar at a marker that tells the unit's overall state.
+struct StateBar : MapControl {
+    std::int32_t fill_colour = 0;
+};
+
 /// `lblUser` and `lblShapeLabel`: a text on the map.
 struct MapLabel : MapControl {
     std::string caption;

@@ -5,6 +5,7 @@
 #include "core/form.h"
 #include "core/frmMain.h"
 #include "core/platform.h"
+#include "core/press.h"
 
 #include <map>
 #include <memory>
@@ -33,8 +34,8 @@ struct PaintLayer {
 
 /// The one program of the process: its campaign, its main window and its way to the outside.
 struct Program {
-    Program(Platform& platform, std::span<const PaintLayer> paint_order)
-        : platform(platform), paint_order(paint_order) {}
+    Program(Platform& platform, std::span<const PaintLayer> paint_order, const ToolOrder& tool_order = {})
+        : platform(platform), paint_order(paint_order), tool_order(tool_order) {}
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
@@ -54,6 +55,7 @@ struct Program {
 
     Platform& platform;
     std::span<const PaintLayer> paint_order;
+    ToolOrder tool_order;
     Campaign campaign;
     frmMain main;
     Painting painting; // what the last refresh drew

@@ -2,12 +2,13 @@
 
 namespace {
 
-bool holds(const MapControl& control, double x, double y) {
-    return control.visible && control.container == Container::map && x >= control.left &&
+bool holds(const MapControl& control, double x, double y, Container container) {
+    return control.visible && control.container == container && x >= control.left &&
            x < control.left + control.width && y >= control.top && y < control.top + control.height;
 }
 
 struct Search {
+    Container container;
     HitTarget found;
     long depth = -1;
 
@@ -15,7 +16,7 @@ struct Search {
     void over(const ControlArray<Control>& controls, TargetKind kind, double x, double y) {
         for (int i = 1; i <= controls.upper(); ++i) {
             const MapControl& control = controls(i);
-            if (control.depth <= depth || !holds(control, x, y)) continue;
+            if (control.depth <= depth || !holds(control, x, y, container)) continue;
             found = {kind, i};
             depth = control.depth;
         }
@@ -24,9 +25,9 @@ struct Search {
 
 } // namespace
 
-HitTarget hit_target(const Program& program, double x, double y) {
+HitTarget hit_target(const Program& program, double x, double y, Container container) {
     const RecordControls& controls = program.main;
-    Search search;
+    Search search{container, {}};
     search.over(controls.imgUnit, TargetKind::unit, x, y);
     search.over(controls.lblUser, TargetKind::label, x, y);
     search.over(controls.lblShapeLabel, TargetKind::shape_label, x, y);

@@ -10,5 +10,5 @@ struct HitTarget {
     int index = 0; // of the control
 };
 
-/// The topmost visible control of the map at this map pixel, or the map.
-HitTarget hit_target(const Program& program, double x, double y);
+/// The topmost visible control of the map at this map pixel, or the map; in the tray likewise.
+HitTarget hit_target(const Program& program, double x, double y, Container container = Container::map);

@@ -24,11 +24,12 @@ QRectF box(const MapControl& control) { return {control.left, control.top, contr
 /// How far a control's paint reaches beyond its box.
 double margin(const UnitMarker& /*marker*/) { return 1; }
 double margin(const MapShape& shape) { return 1 + shape.border_width / 2.0; }
+double margin(const StateBar& /*bar*/) { return 0; }
 double margin(const MapLabel& label) { return label.font.size; } // letters that lean out
 
-template <class Control> bool in_view(const Control& control, const QRectF& wanted) {
+template <class Control> bool in_view(const Control& control, const QRectF& wanted, Container container) {
     const double m = margin(control);
-    return control.visible && control.container == Container::map &&
+    return control.visible && control.container == container &&
            box(control).adjusted(-m, -m, m, m).intersects(wanted);
 }
 
@@ -77,28 +78,73 @@ void paint_shape(QPainter& painter, const MapShape& shape) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
+void paint_state_bar(QPainter& painter, const StateBar& bar) {
+    painter.setPen(Qt::black);
+    painter.setBrush(to_qt_colour(bar.fill_colour));
+    painter.drawRect(box(bar).adjusted(0, 0, -1, -1));
+}
+
+void paint_line(QPainter& painter, const LineControl& line) {
+    if (!line.visible) return;
+    painter.setPen(QPen(to_qt_colour(line.colour), line.width));
+    painter.drawLine(QPointF(line.x1, line.y1), QPointF(line.x2, line.y2));
+}
+
 void paint_find_marker(QPainter& painter, const frmMain& main) {
     const ShapeControl& ring = main.shpFindgrid;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::red, ring.border_width));
     if (ring.visible) painter.drawEllipse(QRectF(ring.left, ring.top, ring.width - 1, ring.height - 1));
-    for (const LineControl* line : {&main.linFindgridx, &main.linFindgridy}) {
-        painter.setPen(QPen(to_qt_colour(line->colour), line->width));
-        if (line->visible) painter.drawLine(QPointF(line->x1, line->y1), QPointF(line->x2, line->y2));
-    }
+    for (const LineControl* line : {&main.linFindgridx, &main.linFindgridy}) paint_line(painter, *line);
+}
+
+void paint_scratch_controls(QPainter& painter, const frmMain& main) {
+    for (const LineControl* line : {&main.linTempLine, &main.linTempLine2}) paint_line(painter, *line);
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::red);
+    for (const ShapeControl& anchor : main.shpAnchor)
+        if (anchor.visible)
+            painter.drawEllipse(QRectF(anchor.left, anchor.top, anchor.width - 1, anchor.height - 1));
+    paint_band(painter, main.shpRubberband);
 }
 
 template <class Control, class Paint>
 void collect(std::vector<Waiting>& waiting, const ControlArray<Control>& controls, const QRectF& wanted,
-             Paint paint) {
+             Paint paint, Container container = Container::map) {
     for (int i = 1; i <= controls.upper(); ++i) {
         const Control& control = controls(i);
-        if (in_view(control, wanted))
+        if (in_view(control, wanted, container))
             waiting.push_back({control.depth, [&control, paint] { paint(control); }});
     }
 }
 
+void paint_by_depth(std::vector<Waiting>& waiting) {
+    std::sort(waiting.begin(), waiting.end(),
+              [](const Waiting& a, const Waiting& b) { return a.depth < b.depth; });
+    for (const Waiting& control : waiting) control.paint();
+}
+
 } // namespace
+
+void paint_band(QPainter& painter, const ShapeControl& band) {
+    if (!band.visible) return;
+    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(band.left, band.top, band.width, band.height));
+}
+
+void paint_tray_controls(QPainter& painter, const frmMain& main, const Sprites& sprites) {
+    std::vector<Waiting> waiting;
+    const QRectF everywhere(-32768, -32768, 65536, 65536);
+    collect(
+        waiting, main.imgUnit, everywhere,
+        [&](const UnitMarker& control) { paint_marker(painter, control, sprites); }, Container::tray);
+    collect(
+        waiting, main.shpUnitState, everywhere,
+        [&](const StateBar& control) { paint_state_bar(painter, control); }, Container::tray);
+    paint_by_depth(waiting);
+    paint_band(painter, main.shpTrayRubberband);
+}
 
 void paint_map_controls(QPainter& painter, const frmMain& main, const Sprites& sprites, const QRect& wanted) {
     const QRectF area(wanted);
@@ -106,12 +152,13 @@ void paint_map_controls(QPainter& painter, const frmMain& main, const Sprites& s
     const auto label = [&](const MapLabel& control) { paint_label(painter, control); };
     collect(waiting, main.imgUnit, area,
             [&](const UnitMarker& control) { paint_marker(painter, control, sprites); });
+    collect(waiting, main.shpUnitState, area,
+            [&](const StateBar& control) { paint_state_bar(painter, control); });
     collect(waiting, main.shpShape, area, [&](const MapShape& control) { paint_shape(painter, control); });
     collect(waiting, main.lblShapeLabel, area, label);
     collect(waiting, main.lblUser, area, label);
-    std::sort(waiting.begin(), waiting.end(),
-              [](const Waiting& a, const Waiting& b) { return a.depth < b.depth; });
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    for (const Waiting& control : waiting) control.paint();
+    paint_by_depth(waiting);
+    paint_scratch_controls(painter, main);
     paint_find_marker(painter, main);
 }

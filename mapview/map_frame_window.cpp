@@ -1,5 +1,7 @@
 #include "mapview/map_frame_window.h"
 
+#include "mapview/mouse_press_window.h"
+#include "mapview/overview.h"
 #include "widgets/colours_qt.h"
 #include "widgets/map_image.h"
 #include "widgets/painter_surface.h"
@@ -31,9 +33,27 @@ void RulerView::paintEvent(QPaintEvent* event) {
         .replay(surface, {wanted.left(), wanted.top(), wanted.right(), wanted.bottom()});
 }
 
-OverviewView::OverviewView(const Program& program, QWidget* parent) : QWidget(parent), program(program) {
+OverviewView::OverviewView(Program& program, EventRunner& events, QWidget* parent)
+    : QWidget(parent), program(program), events(events) {
+    setMouseTracking(true);
     setObjectName("picOverviewmap");
     setAccessibleName("Overview map");
+}
+
+void OverviewView::mousePressEvent(QMouseEvent* event) {
+    events.run([&] { picOverviewmap_MouseDown(program, mouse_press(*event, event->button())); });
+}
+
+void OverviewView::mouseMoveEvent(QMouseEvent* event) {
+    const MapPress press = mouse_press(*event, event->buttons());
+    if (press.button == 0)
+        events.run_small([&] { picOverviewmap_MouseMove(program, press); });
+    else
+        events.run([&] { picOverviewmap_MouseMove(program, press); });
+}
+
+void OverviewView::mouseReleaseEvent(QMouseEvent* event) {
+    events.run([&] { picOverviewmap_MouseUp(program, mouse_press(*event, event->button())); });
 }
 
 void OverviewView::paintEvent(QPaintEvent* /*event*/) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/program.h"
+#include "widgets/event_runner.h"
 
 #include <QWidget>
 
@@ -23,11 +24,15 @@ class RulerView : public QWidget {
 /// `picOverviewmap`: the whole map small, a dot for each unit and a box for what is in view.
 class OverviewView : public QWidget {
   public:
-    OverviewView(const Program& program, QWidget* parent);
+    OverviewView(Program& program, EventRunner& events, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    const Program& program;
+    Program& program;
+    EventRunner& events;
 };

@@ -3,11 +3,13 @@
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "mapview/grid_reference.h"
+#include "mapview/move_unit.h"
+#include "mapview/rubberband.h"
 #include "mapview/scrolling.h"
+#include "mapview/selection.h"
+#include "mapview/unit_info.h"
 
 namespace {
-
-constexpr int right_button = 2;
 
 void show_coordinates(Program& program, std::int16_t& x, std::int16_t& y) {
     std::string east;
@@ -16,38 +18,165 @@ void show_coordinates(Program& program, std::int16_t& x, std::int16_t& y) {
     program.main.sbarMap.panels[0] = "Eastern: " + east + " - Northern: " + north;
 }
 
-} // namespace
+/// Offers the press to the tools in their order.
+Outcome offer(Program& program, const MapPress& press, unsigned target) {
+    for (const PressRow& row : program.tool_order.presses) {
+        if ((row.targets & target) == 0 || (row.button != 0 && row.button != press.button)) continue;
+        if (row.applies(program) && row.act(program, press) == Outcome::done) return Outcome::done;
+    }
+    return Outcome::goes_on;
+}
 
-void picMap_MouseDown(Program& program, const MapPress& press) {
-    trap(program, " when pressing a mouse button on the map.", [&] {
-        if (press.button != right_button) return;
-        program.main.popup_x = to_int16(press.x);
-        program.main.popup_y = to_int16(press.y);
-    });
+void grab_marker(Program& program, int index, const MapPress& press) {
+    const UnitMarker& marker = program.main.imgUnit(index);
+    program.main.unit_grab_x = press.x - marker.left;
+    program.main.unit_grab_y = press.y - marker.top;
+}
+
+void take_in_hand(Program& program, int index, const MapPress& press) {
+    frmMain& main = program.main;
+    if (!(main.place_unit && main.moving_line_point && main.drawing_lines)) main.drag_index = index;
+    if (press.button == left_button && press.shift == shift_key) main.dragging = true;
+}
+
+void imgUnit_MouseDown(Program& program, int index, const MapPress& press) {
+    grab_marker(program, index, press);
+    if (offer(program, press, press_on::marker_first) == Outcome::done) return;
+    if (press.button == left_button && press.shift == ctrl_key) {
+        toggle_selection(program, index);
+        return;
+    }
+    const auto& selected = program.campaign.colSelectedUnits;
+    if (press.shift != ctrl_key && selected.count() < 2) clear_selection(program);
+    if (offer(program, press, press_on::marker_middle) == Outcome::done) return;
+    take_in_hand(program, index, press);
+    if (offer(program, press, press_on::marker_last) == Outcome::done) return;
+    if (selected.count() < 2)
+        select_alone(program, program.campaign.colUnits->item(program.main.imgUnit(index).tag));
+    if (press.button == right_button) program.platform.popup_menu(unit_popup);
+}
+
+void stretch_temp_lines(frmMain& main, const MapPress& press) {
+    for (LineControl* line : {&main.linTempLine, &main.linTempLine2}) {
+        if (!line->visible) continue;
+        line->x2 = press.x;
+        line->y2 = press.y;
+    }
+}
+
+/// What every move over the map does, whatever stands there.
+void follow_pointer(Program& program, const MapPress& press) {
+    edge_scroll(program, press.x, press.y);
+    stretch_temp_lines(program.main, press);
+    for (const MoveRow& row : program.tool_order.moves)
+        if (row.applies(program)) row.act(program, press);
 }
 
 void picMap_MouseMove(Program& program, const MapPress& press) {
+    frmMain& main = program.main;
+    main.current_x = to_int16(press.x);
+    main.current_y = to_int16(press.y);
+    follow_pointer(program, press);
+    // The conversion adds 48 to `current_y` itself: who reads that field allows for it.
+    show_coordinates(program, main.current_x, main.current_y);
+    if (press.button == left_button && band_may_grow(program))
+        stretch_band(program, main.shpRubberband, press.x, press.y);
+}
+
+void control_MouseMove(Program& program, const HitTarget& target, const MapPress& press) {
+    if (target.kind == TargetKind::unit) grab_marker(program, target.index, press);
+    follow_pointer(program, press);
+    std::int16_t x = to_int16(press.x);
+    std::int16_t y = to_int16(press.y);
+    show_coordinates(program, x, y);
+}
+
+/// A place of the overview as map pixels.
+Point map_place(const Program& program, double x, double y) {
+    const frmMain& main = program.main;
+    return {main.picMap.width / main.picOverviewmap.scale_width() * x,
+            main.picMap.height / main.picOverviewmap.scale_height() * y};
+}
+
+} // namespace
+
+void mouse_down(Program& program, const HitTarget& target, MapPress press) {
+    trap(program, " when pressing a mouse button on the map.", [&] {
+        press.on_bare_map = target.kind == TargetKind::map;
+        if (target.kind == TargetKind::unit) {
+            imgUnit_MouseDown(program, target.index, press);
+            return;
+        }
+        // Whichever row acts: a right click that ends a tool must not make the map jump.
+        if (press.on_bare_map && press.button == right_button) {
+            program.main.popup_x = to_int16(press.x);
+            program.main.popup_y = to_int16(press.y);
+        }
+        offer(program, press, press_on::map);
+    });
+}
+
+void mouse_move(Program& program, const HitTarget& target, const MapPress& press) {
     trap(program, " when moving the mouse.", [&] {
-        frmMain& main = program.main;
-        main.current_x = to_int16(press.x);
-        main.current_y = to_int16(press.y);
-        edge_scroll(program, press.x, press.y);
-        // The conversion adds 48 to `current_y` itself: who reads that field allows for it.
-        show_coordinates(program, main.current_x, main.current_y);
+        if (target.kind == TargetKind::map)
+            picMap_MouseMove(program, press);
+        else
+            control_MouseMove(program, target, press);
     });
 }
 
 void picMap_MouseUp(Program& program, const MapPress& press) {
     trap(program, " when releasing a mouse button.", [&] {
-        if (press.button == right_button) pan_map(program, press.x, press.y);
+        frmMain& main = program.main;
+        if (main.map_popup_shown) {
+            main.map_popup_shown = false;
+            return;
+        }
+        if (press.button == right_button) {
+            if (main.aoo_popup_guard) {
+                main.aoo_popup_guard = false;
+                return;
+            }
+            if (!main.drawing_lines && !program.campaign.selecting_fire_mission)
+                pan_map(program, press.x, press.y);
+        }
+        finish_band(program);
+        if (program.campaign.colSelectedUnits.count() > 1) set_menus_by_count(program);
     });
 }
 
-void control_MouseMove(Program& program, const MapPress& press) {
-    trap(program, " when moving the mouse.", [&] {
-        edge_scroll(program, press.x, press.y);
-        std::int16_t x = to_int16(press.x);
-        std::int16_t y = to_int16(press.y);
-        show_coordinates(program, x, y);
+void drag_over(Program& program, DropSite site, double x, double y) {
+    trap(program, " when moving a unit.", [&] {
+        frmMain& main = program.main;
+        if (site == DropSite::nowhere || site == DropSite::tray) return;
+        Point centre{x, y};
+        if (site == DropSite::overview) {
+            centre = map_place(program, x, y);
+        } else {
+            const UnitMarker& marker = main.imgUnit(main.drag_index);
+            edge_scroll(program, x, y);
+            centre = {x - main.unit_grab_x + marker.width / 2, y - main.unit_grab_y + marker.height / 2};
+        }
+        std::int16_t east = to_int16(centre.x);
+        std::int16_t north = to_int16(centre.y);
+        pixel_to_grid(program, east, north, main.lblUIeastcoord.caption, main.lblUInorthcoord.caption);
+        main.sbarMap.panels[0] =
+            "Eastern: " + main.lblUIeastcoord.caption + " - Northern: " + main.lblUInorthcoord.caption;
+    });
+}
+
+void drag_drop(Program& program, DropSite site, double x, double y) {
+    program.main.dragging = false;
+    trap(program, " when moving a unit.", [&] {
+        if (site == DropSite::nowhere) return;
+        if (site == DropSite::overview) {
+            const Point place = map_place(program, x, y);
+            drop_markers(program, Container::map, round_half_even(place.x), round_half_even(place.y));
+        } else if (site == DropSite::tray) {
+            drop_markers(program, Container::tray, x, y);
+        } else {
+            drop_markers(program, Container::map, whole_part(x), whole_part(y));
+        }
+        program.main.picMap.Refresh();
     });
 }

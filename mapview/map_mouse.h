@@ -1,20 +1,22 @@
 #pragma once
 
 #include "core/program.h"
+#include "mapview/hit_target.h"
 
-/// The mouse over the map, in map pixels. Buttons are 1 left, 2 right, 4 middle.
-struct MapPress {
-    int button = 0;
-    int shift = 0; // 1 Shift, 2 Ctrl
-    double x = 0;
-    double y = 0;
-};
+// The mouse over the map and what stands on it. Each has a trap of its own; a failure leaves the state as it
+// then stands.
 
-/// Each has a trap of its own.
-void picMap_MouseDown(Program& program, const MapPress& press);
-void picMap_MouseMove(Program& program, const MapPress& press);
+/// A press, given to the rows of the map, or first to the marker that was hit.
+void mouse_down(Program& program, const HitTarget& target, MapPress press);
+/// The pointer moves; while a button is down, over what was pressed.
+void mouse_move(Program& program, const HitTarget& target, const MapPress& press);
+/// A release over the map after a press there. After a press on a marker or a label it has no effect.
 void picMap_MouseUp(Program& program, const MapPress& press);
 
-/// The pointer moves over a marker, a label or a shape's caption: like the map, except that the map's own
-/// record of the pointer stays.
-void control_MouseMove(Program& program, const MapPress& press);
+/// Where a dragged control can be dropped.
+enum class DropSite : std::uint8_t { nowhere, map, tray, overview };
+
+/// The dragged marker is over a place: tells where its centre would land.
+void drag_over(Program& program, DropSite site, double x, double y);
+/// The end of a drag.
+void drag_drop(Program& program, DropSite site, double x, double y);

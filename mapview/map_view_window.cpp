@@ -3,6 +3,7 @@
 #include "mapview/hit_target.h"
 #include "mapview/map_controls_window.h"
 #include "mapview/map_mouse.h"
+#include "mapview/mouse_press_window.h"
 #include "mapview/scrolling.h"
 #include "widgets/map_image.h"
 #include "widgets/painter_surface.h"
@@ -14,17 +15,8 @@
 
 namespace {
 
-MapPress map_press(const QMouseEvent& event, QPointF origin, Qt::MouseButtons buttons) {
-    MapPress press;
-    if (buttons & Qt::LeftButton) press.button |= 1;
-    if (buttons & Qt::RightButton) press.button |= 2;
-    if (buttons & Qt::MiddleButton) press.button |= 4;
-    if (event.modifiers() & Qt::ShiftModifier) press.shift |= 1;
-    if (event.modifiers() & Qt::ControlModifier) press.shift |= 2;
-    const QPointF point = event.position() - origin;
-    press.x = point.x();
-    press.y = point.y();
-    return press;
+bool shows_scratch_lines(const frmMain& main) {
+    return main.linTempLine.visible || main.linTempLine2.visible || main.shpRubberband.visible;
 }
 
 } // namespace
@@ -91,29 +83,59 @@ void MapView::mousePressEvent(QMouseEvent* event) {
     const bool first_button = event->buttons() == event->button();
     if (first_button) captured = is_over_map(event->position());
     if (!captured) return;
-    const MapPress press = map_press(*event, origin(), event->button());
+    const MapPress press = mouse_press(*event, event->button(), origin());
     // The control that took the first button gets everything until the last one is let go.
-    if (first_button) pressed = hit_target(program, press.x, press.y).kind;
-    events.run([&] { picMap_MouseDown(program, press); });
+    if (first_button) pressed = hit_target(program, press.x, press.y);
+    events.run([&] { mouse_down(program, pressed, press); });
 }
 
+void MapView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
 void MapView::mouseMoveEvent(QMouseEvent* event) {
-    const MapPress press = map_press(*event, origin(), event->buttons());
+    const MapPress press = mouse_press(*event, event->buttons(), origin());
     if (press.button != 0 ? !captured : !is_over_map(event->position())) return;
+    if (program.main.dragging) {
+        drag_to(event->globalPosition(), false);
+        return;
+    }
     events.run_small([&] {
         // While a button is down the moves go to the control that was pressed.
-        const TargetKind target = press.button != 0 ? pressed : hit_target(program, press.x, press.y).kind;
-        if (target == TargetKind::map)
-            picMap_MouseMove(program, press);
-        else
-            control_MouseMove(program, press);
+        mouse_move(program, press.button != 0 ? pressed : hit_target(program, press.x, press.y), press);
     });
+    if (shows_scratch_lines(program.main)) update();
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
-    const MapPress press = map_press(*event, origin(), event->button());
+    const MapPress press = mouse_press(*event, event->button(), origin());
     // A release over a marker or a label that was pressed has no effect of its own.
-    if (captured && pressed == TargetKind::map) events.run([&] { picMap_MouseUp(program, press); });
+    if (program.main.dragging) {
+        drag_to(event->globalPosition(), true);
+        return;
+    }
+    if (captured && pressed.kind == TargetKind::map) events.run([&] { picMap_MouseUp(program, press); });
+}
+
+void MapView::drag_to(QPointF global, bool drop) {
+    const DropPlace place = drop_place(global);
+    const auto act = [&] {
+        if (drop)
+            drag_drop(program, place.site, place.point.x(), place.point.y());
+        else
+            drag_over(program, place.site, place.point.x(), place.point.y());
+    };
+    if (drop)
+        events.run(act);
+    else
+        events.run_small(act);
+}
+
+MapView::DropPlace MapView::drop_place(QPointF global) const {
+    for (const auto& [site, widget] : drop_sites) {
+        const QPointF point = widget->mapFromGlobal(global);
+        if (widget->isVisible() && QRectF(widget->rect()).contains(point)) return {site, point};
+    }
+    const QPointF point = mapFromGlobal(global);
+    return {is_over_map(point) ? DropSite::map : DropSite::nowhere, point - origin()};
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {

@@ -1,6 +1,7 @@
 #include "operations/fire_fans.h"
 
 #include "annotation/draw_lines.h"
+#include "core/catalogue.h"
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "core/unit_place.h"
@@ -9,21 +10,12 @@
 
 namespace {
 
-constexpr std::int16_t free_text_index = 999;
-constexpr std::int16_t artillery = 4;
 constexpr double pi = 3.14159265;
 constexpr double pixels_per_metre = 150 / 1000.0;
 
 constexpr std::int32_t red = 255;
 constexpr std::int32_t green = 0xFF00;
 constexpr std::int32_t blue = 0xFF0000;
-
-/// The catalogue's entry of an artillery piece, or nothing.
-const oForceElements* artillery_piece(const Program& program, const oUnitForceElements& element) {
-    if (element.Index == free_text_index) return nullptr;
-    const oForceElements& entry = *program.campaign.colForceElements->item(str(element.Index));
-    return entry.force_type == artillery ? &entry : nullptr;
-}
 
 /// Draws the piece's arc of 60 degrees around its bearing, or the full circle.
 void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element, const oForceElements& piece,
@@ -99,11 +91,6 @@ template <class Draw> void draw_fans(Painting& painting, Draw draw) {
 }
 
 } // namespace
-
-bool has_firefan(const Program& program, const oUnitForceElements& element) {
-    const oForceElements* const piece = artillery_piece(program, element);
-    return piece != nullptr && piece->firefan;
-}
 
 std::int16_t firefan_angle(const oUnits& unit, double x, double y) {
     const double dx = x - unit.xcoord;

@@ -2,10 +2,6 @@
 
 #include "core/program.h"
 
-/// Whether the element has an arc of fire that can be turned: an artillery piece of the catalogue with a fan.
-/// Fails with 5 when the catalogue lacks it.
-bool has_firefan(const Program& program, const oUnitForceElements& element);
-
 /// The compass bearing from the unit to a map pixel, whole degrees; 180 on the unit itself.
 std::int16_t firefan_angle(const oUnits& unit, double x, double y);
 

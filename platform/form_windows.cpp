@@ -1,5 +1,6 @@
 #include "platform/form_windows.h"
 
+#include "mapview/frmDisplay_window.h"
 #include "mapview/frmEnterCoord_window.h"
 #include "persistence/frmSaveSelect_window.h"
 #include "program/about_window.h"
@@ -21,6 +22,7 @@ const std::map<std::string, Maker>& makers() {
     static const std::map<std::string, Maker> rows{
         {frmAboutMap::form_name, make<frmAboutMap, frmAboutMap_window>},
         {frmAboutTolvaneII::form_name, make<frmAboutTolvaneII, frmAboutTolvaneII_window>},
+        {frmDisplay::form_name, make<frmDisplay, frmDisplay_window>},
         {frmEnterCoord::form_name, make<frmEnterCoord, frmEnterCoord_window>},
         {frmMapLegend::form_name, make<frmMapLegend, frmMapLegend_window>},
         {frmSaveSelect::form_name, make<frmSaveSelect, frmSaveSelect_window>},

@@ -2,6 +2,7 @@
 #include "platform/qt_platform.h"
 #include "program/frmStart.h"
 #include "program/paint_order.h"
+#include "program/press_order.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -21,7 +22,7 @@ int main(int /*argc*/, char** argv) {
     // Dialogs of the library would keep settings of their own.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     QtPlatform platform(QApplication::applicationDirPath().toStdString());
-    Program program(platform, paint_order());
+    Program program(platform, paint_order(), tool_order());
     platform.serve(program);
     auto& splash = program.form<frmStart>();
     splash.Form_Load();

@@ -1,14 +1,18 @@
 #include "program/frmMain_window.h"
 
+#include "annotation/line_panel_window.h"
 #include "mapview/find_coordinate.h"
 #include "mapview/keys.h"
 #include "mapview/layout.h"
 #include "mapview/map_frame_window.h"
 #include "mapview/scrolling.h"
+#include "mapview/unit_info_window.h"
+#include "mapview/unit_tray_window.h"
 #include "program/exit.h"
 #include "program/key_codes_window.h"
 #include "program/menus.h"
 #include "program/toolbar.h"
+#include "program/unit_info_buttons.h"
 #include "widgets/colours_qt.h"
 #include "widgets/text.h"
 
@@ -159,11 +163,23 @@ void frmMain_window::make_map_area() {
         new RulerView(program, "picHcoordContainer", &frmMain::picHcoord, &Painting::hcoord, area);
     vertical_ruler =
         new RulerView(program, "picVcoordContainer", &frmMain::picVcoord, &Painting::vcoord, area);
-    overview = new OverviewView(program, area);
+    overview = new OverviewView(program, events, area);
     scroll_bar("scrlHMap", &frmMain::scrlHMap, Qt::Horizontal, scrlHMap_Scroll);
     scroll_bar("scrlVMap", &frmMain::scrlVMap, Qt::Vertical, scrlVMap_Scroll);
     steps.emplace_back([this] { place_map_area(); });
+    make_side_panels();
     map_view->setFocus();
+}
+
+void frmMain_window::make_side_panels() {
+    auto* const tray = new UnitTrayView(program, sprites, *map_view, area_top, events, area);
+    for (SidePanel* const panel :
+         {static_cast<SidePanel*>(
+              new UnitInfoView(program, sprites, unit_info_buttons(), area_top, events, area)),
+          static_cast<SidePanel*>(new LinePanelView(program, area_top, events, area)),
+          static_cast<SidePanel*>(tray)})
+        steps.emplace_back([panel] { panel->bring_in_step(); });
+    map_view->drop_sites = {{DropSite::tray, tray}, {DropSite::overview, overview}};
 }
 
 void frmMain_window::place_map_area() {

@@ -42,6 +42,7 @@ class frmMain_window : public QMainWindow {
     void make_menus();
     void make_toolbar();
     void make_map_area();
+    void make_side_panels();
     void make_status_bar();
     bool takes_keys(const QObject* watched) const;
     void fit_to_client();

@@ -1,6 +1,11 @@
 #include "program/menus.h"
 
 #include "core/hierarchy.h"
+#include "mapview/frmDisplay.h"
+#include "mapview/move_unit.h"
+#include "mapview/overview.h"
+#include "mapview/unit_states.h"
+#include "operations/range_tools.h"
 #include "persistence/main_file_reader.h"
 #include "persistence/main_file_writer.h"
 #include "program/about.h"
@@ -27,26 +32,26 @@ constexpr std::array<MenuRow, 31> rows{{
     {"&File", "Exit", "mnuExit", &Main::mnuExit, mnuExit_Click},
     {"&Edit", "Delete everything...", "mnuDeleteAll", &Main::mnuDeleteAll, nullptr},
     {"&Edit", "Delete selected units...", "mnuDeleteSelected", &Main::mnuDeleteSelected, nullptr},
-    {"&View", "Set display options...", "mnuSetDisplay", &Main::mnuSetDisplay, nullptr},
+    {"&View", "Set display options...", "mnuSetDisplay", &Main::mnuSetDisplay, mnuSetDisplay_Click},
     {"&View", "Order Of Battle...", "mnuViewCompleteOOB", &Main::mnuViewCompleteOOB, nullptr},
-    {"&View", "Unit overall state", "mnuUnitState", &Main::mnuUnitState, nullptr},
-    {"&View", "Units", "mnuShowHideUnits", &Main::mnuShowHideUnits, nullptr},
-    {"&Tools", "Range circles", "mnuRangeCircles", &Main::mnuRangeCircles, nullptr},
+    {"&View", "Unit overall state", "mnuUnitState", &Main::mnuUnitState, mnuUnitState_Click},
+    {"&View", "Units", "mnuShowHideUnits", &Main::mnuShowHideUnits, mnuShowHideUnits_Click},
+    {"&Tools", "Range circles", "mnuRangeCircles", &Main::mnuRangeCircles, mnuRangeCircles_Click},
     {"&Tools", "Check && repair HQ/Subordiante links", "mnuCheckHQSub", &Main::mnuCheckHQSub,
      mnuCheckHQSub_Click},
     {"&Tools", "Change unit ID", "mnuChangeUnitID", &Main::mnuChangeUnitID, mnuChangeUnitID_Click},
     {"&Tools", "Options", "mnuOpt", &Main::mnuOpt, nullptr},
-    {"mnuOpt", "Leave AOO in place when moving units", "mnuLeaveAOO", &Main::mnuLeaveAOO, nullptr},
+    {"mnuOpt", "Leave AOO in place when moving units", "mnuLeaveAOO", &Main::mnuLeaveAOO, mnuLeaveAOO_Click},
     {"&Reports", "List all units...", "mnuListUnits", &Main::mnuListUnits, nullptr},
     {"&Help", "About Tolvane II", "mnuAboutTolvaneII", &Main::mnuAboutTolvaneII, mnuAboutTolvaneII_Click},
     {"&Help", "About the map", "mnuAboutMap", &Main::mnuAboutMap, mnuAboutMap_Click},
     {unit_popup, "Delete...", "mnuUP_delete", &Main::mnuUP_delete, nullptr},
     {unit_popup, "Edit unit", "mnuUP_edit", &Main::mnuUP_edit, nullptr},
     {unit_popup, "Delete all...", "mnuUP_delete_all", &Main::mnuUP_delete_all, nullptr},
-    {unit_popup, "Move to...", "mnuUP_moveto", &Main::mnuUP_moveto, nullptr},
-    {overview_popup, "Show firefans", "mnuViewFFoverview", &Main::mnuViewFFoverview, nullptr},
-    {overview_popup, "Show lines", "mnuOVPU_showlines", &Main::mnuOVPU_showlines, nullptr},
-    {overview_popup, "Show units", "mnuOVPU_show_units", &Main::mnuOVPU_show_units, nullptr},
+    {unit_popup, "Move to...", "mnuUP_moveto", &Main::mnuUP_moveto, mnuUP_moveto_Click},
+    {overview_popup, "Show firefans", "mnuViewFFoverview", &Main::mnuViewFFoverview, mnuViewFFoverview_Click},
+    {overview_popup, "Show lines", "mnuOVPU_showlines", &Main::mnuOVPU_showlines, mnuOVPU_showlines_Click},
+    {overview_popup, "Show units", "mnuOVPU_show_units", &Main::mnuOVPU_show_units, mnuOVPU_show_units_Click},
 }};
 
 } // namespace

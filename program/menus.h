@@ -16,9 +16,5 @@ struct MenuRow {
 
 std::span<const MenuRow> menu_rows();
 
-/// The titles of the popup menus; all other titles stand in the menu bar.
-inline constexpr const char* unit_popup = "Unit menu";
-inline constexpr const char* overview_popup = "Overview Popup";
-
 /// Whether this entry only opens a submenu.
 bool opens_submenu(const MenuRow& row);

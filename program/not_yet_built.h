@@ -4,18 +4,18 @@
 
 /// The menu entries and buttons whose command does not exist yet: they are shown disabled. This list must
 /// shrink to nothing.
-inline constexpr std::array<const char*, 36> not_yet_built{
+inline constexpr std::array<const char*, 33> not_yet_built{
     // Unit lists and report
     "mnuSaveAlliedUnits", "mnuSaveAxisUnits", "mnuSaveAllUnits", "mnuSaveSelectedUnits", "mnuLoadUnits",
     "mnuListUnits",
-    // Units
-    "mnuDeleteAll", "mnuDeleteSelected", "mnuUP_delete", "mnuUP_edit", "mnuUP_delete_all", "mnuUP_moveto",
-    "mnuViewCompleteOOB", "cmdCreateUnits",
-    // Display, overview, tray and pictures
-    "mnuSetDisplay", "mnuUnitState", "mnuShowHideUnits", "mnuViewFFoverview", "mnuOVPU_showlines",
-    "mnuOVPU_show_units", "cmdUnitTray", "cmdShowFullscreen", "cmdSavemap", "cmdSnapshot",
+    // Units and their force elements
+    "mnuDeleteAll", "mnuDeleteSelected", "mnuUP_delete", "mnuUP_edit", "mnuUP_delete_all",
+    "mnuViewCompleteOOB", "cmdCreateUnits", "cmdEditUnit", "cmdCopyUnit", "cmdDeleteUnit", "cmdEditFE",
+    "cmdDeleteFE", "cmdTransferFE",
+    // Pictures
+    "cmdShowFullscreen", "cmdSavemap", "cmdSnapshot",
     // Drawing on the map
-    "cmdLabel", "cmdDrawLines", "cmdDrawPolygon", "cmdCreateShapes",
+    "cmdLabel", "cmdDrawPolygon", "cmdCreateShapes",
     // Operations, rosters and gazetteer
-    "mnuRangeCircles", "mnuLeaveAOO", "cmdFireMissions", "cmdRangecheck", "cmdPathRange", "cmdSetDateTime",
+    "cmdUnitWaypoints", "cmdEditWaypt", "cmdMoveWaypt", "cmdClearWaypt", "cmdFireMissions", "cmdSetDateTime",
     "cmdEditGMPlayers", "cmdTownsData"};

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QCheckBox;
@@ -31,6 +32,8 @@ class FormWindow : public QDialog {
                         std::function<void()> got_focus);
     QCheckBox* check_box(const std::string& name, const std::string& caption, CheckBox& twin);
     QPushButton* button(const std::string& name, const std::string& caption, std::function<void()> click);
+    /// Something else that shows the state.
+    void add_step(std::function<void()> step) { steps.push_back(std::move(step)); }
     QLabel* heading(const std::string& text);
     QLabel* text(const std::string& text);
 

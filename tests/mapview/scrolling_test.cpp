@@ -20,6 +20,7 @@ class Scrolling : public ProgramTest {
     }
 
     using At = std::pair<int, int>;
+    const HitTarget marker{TargetKind::label, 1};
 };
 
 } // namespace
@@ -152,30 +153,30 @@ TEST_F(Scrolling, EdgesDoNothingWhileTheToolIsOff) {
 TEST_F(Scrolling, MovingTheMouseOverMapOrMarkerScrollsAtTheEdge) {
     program.main.edge_scrolling = true;
     start_at(500, 500);
-    picMap_MouseMove(program, {0, 0, 500, 900});
+    mouse_move(program, {}, {0, 0, 500, 900});
     EXPECT_EQ(values(), At(490, 500));
-    control_MouseMove(program, {0, 0, 490, 900});
+    mouse_move(program, marker, {0, 0, 490, 900});
     EXPECT_EQ(values(), At(480, 500));
 }
 
 TEST_F(Scrolling, RightButtonPansByTheWayOfThePointer) {
     start_at(1000, 1000);
-    picMap_MouseDown(program, {2, 0, 1000, 1000});
+    mouse_down(program, {}, {2, 0, 1000, 1000});
     picMap_MouseUp(program, {2, 0, 900, 950});
     EXPECT_EQ(values(), At(1100, 1050));
-    picMap_MouseDown(program, {2, 0, 100, 100});
+    mouse_down(program, {}, {2, 0, 100, 100});
     picMap_MouseUp(program, {2, 0, 9000, 9000});
     EXPECT_EQ(values(), At(0, 0));
-    picMap_MouseDown(program, {2, 0, 9000, 9000});
+    mouse_down(program, {}, {2, 0, 9000, 9000});
     picMap_MouseUp(program, {2, 0, 0, 0});
     EXPECT_EQ(values(), At(4382, 5115));
 }
 
 TEST_F(Scrolling, RightClickWithoutMovementAndLeftButtonChangeNothing) {
     start_at(700, 800);
-    picMap_MouseDown(program, {2, 0, 1000, 1000});
+    mouse_down(program, {}, {2, 0, 1000, 1000});
     picMap_MouseUp(program, {2, 0, 1000, 1000});
-    picMap_MouseDown(program, {1, 0, 100, 100});
+    mouse_down(program, {}, {1, 0, 100, 100});
     picMap_MouseUp(program, {1, 0, 500, 500});
     EXPECT_EQ(values(), At(700, 800));
 }
@@ -194,8 +195,8 @@ TEST_F(Scrolling, BoxTopFollowsTheHeights) {
 }
 
 TEST_F(Scrolling, PointerBeyondSixteenBitsIsToldAsError6) {
-    picMap_MouseMove(program, {0, 0, 100, 32720});
-    picMap_MouseDown(program, {2, 0, 40000, 0});
+    mouse_move(program, {}, {0, 0, 100, 32720});
+    mouse_down(program, {}, {2, 0, 40000, 0});
     EXPECT_EQ(platform.texts(),
               (std::vector<std::string>{"Error 6 when moving the mouse.",
                                         "Error 6 when pressing a mouse button on the map."}));
@@ -212,16 +213,16 @@ TEST_F(Scrolling, PanBeyondSixteenBitsIsToldAsError6) {
 }
 
 TEST_F(Scrolling, MoveShowsTheReferenceAndLeavesCurrentY48TooLarge) {
-    picMap_MouseMove(program, {0, 0, 225, 102});
+    mouse_move(program, {}, {0, 0, 225, 102});
     EXPECT_EQ(program.main.sbarMap.panels[0], "Eastern: 01.50 - Northern: 40.00");
-    picMap_MouseMove(program, {0, 0, 10, 20});
+    mouse_move(program, {}, {0, 0, 10, 20});
     EXPECT_EQ(program.main.current_x, 10);
     EXPECT_EQ(program.main.current_y, 68);
 }
 
 TEST_F(Scrolling, MoveOverAMarkerLeavesTheMapsPointerAlone) {
-    picMap_MouseMove(program, {0, 0, 10, 20});
-    control_MouseMove(program, {0, 0, 225, 102});
+    mouse_move(program, {}, {0, 0, 10, 20});
+    mouse_move(program, marker, {0, 0, 225, 102});
     EXPECT_EQ(program.main.sbarMap.panels[0], "Eastern: 01.50 - Northern: 40.00");
     EXPECT_EQ(program.main.current_x, 10);
     EXPECT_EQ(program.main.current_y, 68);

@@ -1,5 +1,6 @@
 #include "operations/fire_fans.h"
 
+#include "core/catalogue.h"
 #include "mapview/painting.h"
 #include "tests/support/figures.h"
 #include "tests/support/program_test.h"

@@ -3,6 +3,7 @@
 #include "core/identity.h"
 #include "core/program.h"
 #include "program/paint_order.h"
+#include "program/press_order.h"
 #include "tests/support/scripted_platform.h"
 
 #include <gmock/gmock.h>
@@ -74,6 +75,6 @@ class ProgramTest : public testing::Test {
     }
 
     ScriptedPlatform platform;
-    Program program{platform, paint_order()};
+    Program program{platform, paint_order(), tool_order()};
     std::string folder;
 };

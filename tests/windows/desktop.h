@@ -4,6 +4,7 @@
 #include "platform/qt_platform.h"
 #include "program/frmStart.h"
 #include "program/paint_order.h"
+#include "program/press_order.h"
 
 #include <QApplication>
 #include <QDir>
@@ -21,7 +22,9 @@
 /// controls.
 class Desktop {
   public:
-    Desktop() : platform(PROGRAM_DIRECTORY), program(platform, paint_order()) { platform.serve(program); }
+    Desktop() : platform(PROGRAM_DIRECTORY), program(platform, paint_order(), tool_order()) {
+        platform.serve(program);
+    }
 
     /// Shows the splash and waits until the main window stands.
     void start() {

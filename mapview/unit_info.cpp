@@ -1,0 +1,261 @@
+#include "mapview/unit_info.h"
+
+#include "core/catalogue.h"
+#include "core/identity.h"
+#include "core/numbers.h"
+#include "core/trap.h"
+#include "mapview/grid_reference.h"
+#include "mapview/scrolling.h"
+#include "mapview/selection.h"
+
+#include <array>
+
+namespace {
+
+constexpr int deepest = 10;
+constexpr std::size_t key_length = 38; // of a GUID in braces
+constexpr const char* key_mark = "###";
+
+void collect(const Program& program, const std::string& id, int depth, Collection<oChildren>& list) {
+    if (depth > deepest) return;
+    const oUnits& unit = *program.campaign.colUnits->item(id);
+    if (unit.children.empty()) return;
+    for (const auto& child : unit.children) {
+        static_cast<void>(program.campaign.colUnits->item(child->ID));
+        list.add(std::make_shared<oChildren>(oChildren{child->ID, std::to_string(depth)}), child->ID);
+        collect(program, child->ID, depth + 1, list);
+    }
+}
+
+std::string full_name(const oUnits& unit) { return unit.nationality + " " + unit.name + " " + unit.unittype; }
+
+std::string casualties(const oUnitForceElements& element) {
+    const std::string missing = std::to_string(element.MIA) + " MIA";
+    const std::string killed = std::to_string(element.KIA) + " KIA";
+    if (element.MIA > 0 && element.KIA > 0) return ", casulties = " + missing + ", " + killed;
+    if (element.MIA > 0) return ", casulties = " + missing;
+    if (element.KIA > 0) return ", casulties = " + killed;
+    return "";
+}
+
+std::string element_row(const Program& program, const oUnitForceElements& element) {
+    const std::string what =
+        element.Index == free_text_index ? element.free_text : catalogue_entry(program, element).description;
+    return what + " x " + format_fixed(element.quantity, 3, 0) + ", " + element.experience +
+           " ,ammo = " + std::to_string(element.ammo) + casualties(element);
+}
+
+std::string subordinate_row(const oUnits& unit, int depth) {
+    constexpr std::array<std::size_t, deepest> indents{0, 3, 7, 11, 15, 19, 23, 27, 31, 35};
+    return std::string(indents.at(static_cast<std::size_t>(depth) - 1), ' ') + unit.name + " " +
+           unit.unittype + std::string(150, ' ') + key_mark + unit.ID;
+}
+
+std::int16_t sum16(int a, int b) { return to_int16(static_cast<double>(a) + b); }
+
+/// Elements of all subordinates, those of one kind and experience added up.
+class Accumulated {
+  public:
+    void add(const oUnitForceElements& element) {
+        const std::string key = std::to_string(element.Index) + "," + element.experience;
+        if (oAccuUFE* const known = entries.look_up(key)) {
+            known->quantity = sum16(known->quantity, element.quantity);
+            known->ammo = sum16(known->ammo, element.ammo);
+            known->MIA = sum16(known->MIA, element.MIA);
+            known->KIA = sum16(known->KIA, element.KIA);
+            return;
+        }
+        auto made = std::make_shared<oAccuUFE>();
+        made->Index = element.Index;
+        made->experience = element.experience;
+        made->quantity = element.quantity;
+        made->ammo = element.ammo;
+        made->MIA = element.MIA;
+        made->KIA = element.KIA; // and no free text: such elements add up by experience alone
+        entries.add(made, key);
+    }
+
+    Collection<oAccuUFE> entries;
+};
+
+struct Losses {
+    std::int64_t missing = 0;
+    std::int64_t killed = 0;
+
+    void add(const oUnits& unit) {
+        if (unit.force_elements.empty()) return;
+        for (const auto& element : unit.force_elements) {
+            missing += element->MIA;
+            killed += element->KIA;
+        }
+    }
+};
+
+std::int32_t state_colour(std::int16_t state) {
+    switch (state) {
+    case 0:
+        return colour::button_face;
+    case 1:
+        return 0xFF00;
+    case 2:
+        return 0xFFFF;
+    case 3:
+        return 255;
+    default:
+        return 0;
+    }
+}
+
+void clear_panel(Program& program) {
+    UnitInfoPanel& panel = program.main;
+    panel.lstUIchildunits = {};
+    panel.lstUIfe = {};
+    panel.cmdSetFirefan.enabled = false;
+    panel.cmdTransferFE.enabled = false;
+    panel.cmdEditFE.enabled = false;
+    panel.cmdDeleteFE.enabled = false;
+    panel.lblUIFFangle.caption.clear();
+    program.campaign.curUFE = nullptr;
+}
+
+void show_identity(Program& program, const oUnits& unit) {
+    UnitInfoPanel& panel = program.main;
+    if (program.main.imgUnit.has(unit.img_index))
+        panel.imgUIunit = program.main.imgUnit(unit.img_index).picture;
+    panel.lblUIunitname.caption = full_name(unit);
+    panel.lblUIparentname.caption =
+        unit.parent_ID.empty() ? "" : full_name(*program.campaign.colUnits->item(unit.parent_ID));
+    panel.lblUISupplyReq.caption = std::to_string(unit.supply_req);
+    panel.lblUICurrSupply.caption = std::to_string(unit.current_supply);
+    panel.lblUIOpStatus.caption = unit.op_status;
+    panel.lblUIFitness.caption = unit.fitness;
+}
+
+void show_own_elements(Program& program, const oUnits& unit) {
+    UnitInfoPanel& panel = program.main;
+    Losses own;
+    own.add(unit);
+    panel.lblUIMIA.caption = std::to_string(own.missing);
+    panel.lblUIKIA.caption = std::to_string(own.killed);
+    if (unit.force_elements.empty()) return;
+    for (const auto& element : unit.force_elements)
+        panel.lstUIfe.rows.push_back(element_row(program, *element) + std::string(222, ' ') + element->ID);
+}
+
+void show_subordinates(Program& program, const oUnits& unit) {
+    UnitInfoPanel& panel = program.main;
+    Collection<oChildren> list;
+    collect_subordinates(program, unit.ID, list);
+    Losses losses;
+    losses.add(unit);
+    std::int64_t supply_req = unit.supply_req;
+    std::int64_t current_supply = unit.current_supply;
+    Accumulated accumulated;
+    for (const auto& entry : list) {
+        const oUnits& subordinate = *program.campaign.colUnits->item(entry->ID);
+        panel.lstUIchildunits.rows.push_back(subordinate_row(subordinate, std::stoi(entry->name)));
+        supply_req += subordinate.supply_req;
+        current_supply += subordinate.current_supply;
+        losses.add(subordinate);
+        if (subordinate.force_elements.empty()) continue;
+        for (const auto& element : subordinate.force_elements) accumulated.add(*element);
+    }
+    if (panel.chkShowAllFE.value)
+        for (const auto& entry : accumulated.entries)
+            panel.lstUIfe.rows.push_back(element_row(program, *entry));
+    panel.lblUIAccMIA.caption = std::to_string(losses.missing);
+    panel.lblUIAccKIA.caption = std::to_string(losses.killed);
+    panel.lblUIAccSupplyReq.caption = std::to_string(supply_req);
+    panel.lblUIAccCurrSupply.caption = std::to_string(current_supply);
+}
+
+void show_place(Program& program, const oUnits& unit) {
+    std::int16_t x = unit.xcoord;
+    std::int16_t y = unit.ycoord; // a copy: the conversion moves it
+    pixel_to_grid(program, x, y, program.main.lblUIeastcoord.caption, program.main.lblUInorthcoord.caption);
+}
+
+/// The key at the end of the selected row, or nothing.
+std::string selected_key(const ListBox& list) {
+    if (list.selected < 0) return "";
+    const std::string& row = list.rows.at(static_cast<std::size_t>(list.selected));
+    return row.size() < key_length ? "" : row.substr(row.size() - key_length);
+}
+
+} // namespace
+
+void collect_subordinates(const Program& program, const std::string& id, Collection<oChildren>& list) {
+    collect(program, id, 1, list);
+}
+
+void show_unit_info(Program& program, const std::string& id) {
+    trap(program, " when displaying unit info.", [&] {
+        frmMain& main = program.main;
+        clear_panel(program);
+        const auto unit = program.campaign.colUnits->item(id);
+        show_identity(program, *unit);
+        show_own_elements(program, *unit);
+        show_subordinates(program, *unit);
+        main.picUnitState.back_colour = state_colour(unit->state);
+        show_place(program, *unit);
+        program.campaign.curUnit = unit;
+        main.lblUIUnitStatus.caption = unit->order_id;
+        main.picUnitInfo.visible = true;
+        for (Button* button : {&main.cmdEditWaypt, &main.cmdMoveWaypt, &main.cmdClearWaypt})
+            button->enabled = !unit->waypoints.empty();
+        main.picMap.Refresh();
+    });
+}
+
+void locate_unit(Program& program, const std::string& id) {
+    const auto unit = program.campaign.colUnits->item(id);
+    for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) program.main.imgUnit(i).border_style = 0;
+    center_map_on(program, unit->xcoord, unit->ycoord);
+    program.campaign.colSelectedUnits.drop();
+    select_unit(program, unit);
+    set_menus_by_count(program);
+    show_unit_info(program, id);
+}
+
+void lstUIfe_Click(Program& program) {
+    trap(program, " when displaying unit info.", [&] {
+        frmMain& main = program.main;
+        Campaign& campaign = program.campaign;
+        const std::string key = selected_key(main.lstUIfe);
+        if (key.starts_with("{") && campaign.curUnit)
+            campaign.curUFE = campaign.curUnit->force_elements->item(key);
+        if (main.lstUIfe.selected >= 0 && !main.chkShowAllFE.value && campaign.curUFE) {
+            main.cmdTransferFE.enabled = true;
+            main.cmdEditFE.enabled = true;
+            main.cmdDeleteFE.enabled = true;
+            main.cmdSetFirefan.enabled = has_firefan(program, *campaign.curUFE);
+        }
+        main.lblUIFFangle.caption =
+            main.cmdSetFirefan.enabled ? std::to_string(campaign.curUFE->FireFanAngle) : "";
+        main.picMap.Refresh();
+    });
+}
+
+void lstUIchildunits_DblClick(Program& program) {
+    trap(program, " when displaying unit info.", [&] {
+        const std::string key = selected_key(program.main.lstUIchildunits);
+        if (!key.empty()) select_alone(program, program.campaign.colUnits->item(key));
+    });
+}
+
+void cmdSelectHQ_Click(Program& program) {
+    trap(program, " when displaying unit info.", [&] {
+        if (program.main.lblUIparentname.caption.empty() || !program.campaign.curUnit) return;
+        select_alone(program, program.campaign.colUnits->item(program.campaign.curUnit->parent_ID));
+    });
+}
+
+void chkShowAllFE_Click(Program& program) {
+    if (program.campaign.curUnit) show_unit_info(program, program.campaign.curUnit->ID);
+}
+
+void cmdHierarchy_Click(Program& program) {
+    program.main.hierarchy_on = !program.main.hierarchy_on;
+    program.main.cmdHierarchy.show_on(program.main.hierarchy_on);
+    program.main.picMap.Refresh();
+}

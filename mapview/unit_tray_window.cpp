@@ -1,0 +1,70 @@
+#include "mapview/unit_tray_window.h"
+
+#include "mapview/map_controls_window.h"
+#include "mapview/mouse_press_window.h"
+#include "mapview/unit_tray.h"
+
+#include <QPainter>
+#include <QPushButton>
+
+UnitTrayView::UnitTrayView(Program& program, const Sprites& sprites, MapView& map, double area_top,
+                           EventRunner& events, QWidget* parent)
+    : SidePanel("picUnitTray", program.main.picUnitTray, area_top, events, parent), program(program),
+      sprites(sprites), map(map), events(events) {
+    setMouseTracking(true);
+    close =
+        bind.button("cmdUTClose", "Hide", program.main.cmdUTClose, [&program] { cmdUTClose_Click(program); });
+}
+
+void UnitTrayView::bring_in_step() {
+    SidePanel::bring_in_step();
+    update();
+}
+
+void UnitTrayView::resizeEvent(QResizeEvent* event) {
+    constexpr int margin = 4;
+    SidePanel::resizeEvent(event);
+    close->adjustSize();
+    close->move(width() - close->width() - margin, height() - close->height() - margin);
+}
+
+void UnitTrayView::paintEvent(QPaintEvent* event) {
+    SidePanel::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect().adjusted(0, 3, 0, 0), Qt::AlignHCenter | Qt::AlignTop, "Unit tray");
+    paint_tray_controls(painter, program.main, sprites);
+}
+
+void UnitTrayView::mousePressEvent(QMouseEvent* event) {
+    const MapPress press = mouse_press(*event, event->button());
+    if (event->buttons() == event->button()) pressed = hit_target(program, press.x, press.y, Container::tray);
+    events.run([&] {
+        if (pressed.kind == TargetKind::unit)
+            mouse_down(program, pressed, press);
+        else
+            picUnitTray_MouseDown(program, press);
+    });
+}
+
+void UnitTrayView::mouseMoveEvent(QMouseEvent* event) {
+    const MapPress press = mouse_press(*event, event->buttons());
+    if (program.main.dragging) {
+        map.drag_to(event->globalPosition(), false);
+        return;
+    }
+    if (press.button == 0) return;
+    if (pressed.kind == TargetKind::map) events.run_small([&] { picUnitTray_MouseMove(program, press); });
+    update();
+}
+
+void UnitTrayView::mouseReleaseEvent(QMouseEvent* event) {
+    const MapPress press = mouse_press(*event, event->button());
+    if (program.main.dragging) {
+        map.drag_to(event->globalPosition(), true);
+        return;
+    }
+    if (pressed.kind == TargetKind::map) events.run([&] { picUnitTray_MouseUp(program, press); });
+}

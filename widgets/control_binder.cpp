@@ -1,0 +1,173 @@
+#include "widgets/control_binder.h"
+
+#include "widgets/colours_qt.h"
+#include "widgets/text.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStringListModel>
+
+namespace {
+
+template <class Widget> Widget* named(Widget* widget, const std::string& name) {
+    widget->setObjectName(to_qt(name));
+    return widget;
+}
+
+QStringList to_rows(const std::vector<std::string>& rows) {
+    QStringList all;
+    for (const std::string& row : rows) all << to_qt(row);
+    return all;
+}
+
+} // namespace
+
+ControlBinder::ControlBinder(QWidget* parent, std::function<void(const Procedure&)> run)
+    : parent(parent), run(std::move(run)) {}
+
+void ControlBinder::bring_in_step() const {
+    for (const Procedure& step : steps) step();
+}
+
+QLabel* ControlBinder::label(const std::string& name, const Label& twin) {
+    auto* const shown = named(new QLabel(parent), name);
+    shown->setTextFormat(Qt::PlainText);
+    steps.emplace_back([shown, &twin] { shown->setText(to_qt(twin.caption)); });
+    return shown;
+}
+
+QPushButton* ControlBinder::button(const std::string& name, const std::string& caption, Button& twin,
+                                   Procedure click) {
+    auto* const push = named(new QPushButton(to_qt(caption), parent), name);
+    push->setAutoDefault(false);
+    const bool exists = click != nullptr;
+    QObject::connect(push, &QPushButton::clicked, push, [this, click = std::move(click)] { run(click); });
+    steps.emplace_back([push, &twin, exists] {
+        push->setEnabled(twin.enabled && exists);
+        push->setCheckable(twin.on());
+        push->setChecked(twin.on());
+    });
+    return push;
+}
+
+QCheckBox* ControlBinder::check_box(const std::string& name, const std::string& caption, CheckBox& twin,
+                                    Procedure click) {
+    auto* const box = named(new QCheckBox(to_qt(caption), parent), name);
+    QObject::connect(box, &QCheckBox::toggled, box, [this, &twin, click = std::move(click)](bool on) {
+        twin.value = on;
+        if (click) run(click);
+    });
+    steps.emplace_back([box, &twin] {
+        const QSignalBlocker quiet(box);
+        box->setChecked(twin.value);
+        box->setEnabled(twin.enabled);
+    });
+    return box;
+}
+
+QRadioButton* ControlBinder::option(const std::string& name, const std::string& caption, OptionButton& twin,
+                                    Procedure click) {
+    auto* const choice = named(new QRadioButton(to_qt(caption), parent), name);
+    choice->setAutoExclusive(false); // the twins say which one is on
+    QObject::connect(choice, &QRadioButton::clicked, choice,
+                     [this, click = std::move(click)] { run(click); });
+    steps.emplace_back([choice, &twin] {
+        const QSignalBlocker quiet(choice);
+        choice->setChecked(twin.value);
+        choice->setEnabled(twin.enabled);
+    });
+    return choice;
+}
+
+QListView* ControlBinder::list(const std::string& name, const std::string& accessible_name, ListBox& twin,
+                               Procedure click, Procedure double_click) {
+    auto* const view = named(new QListView(parent), name);
+    auto* const model = new QStringListModel(view);
+    view->setModel(model);
+    view->setAccessibleName(to_qt(accessible_name));
+    view->setUniformItemSizes(true);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the keys stand far to the right
+    view->setTextElideMode(Qt::ElideNone);
+    QObject::connect(view->selectionModel(), &QItemSelectionModel::currentChanged, view,
+                     [this, &twin, click = std::move(click)](const QModelIndex& index) {
+                         twin.selected = index.row();
+                         if (click) run(click);
+                     });
+    QObject::connect(view, &QListView::doubleClicked, view,
+                     [this, &twin, double_click = std::move(double_click)](const QModelIndex& index) {
+                         twin.selected = index.row();
+                         if (double_click) run(double_click);
+                     });
+    auto shown = std::make_shared<std::vector<std::string>>();
+    steps.emplace_back([view, model, &twin, shown] {
+        const QSignalBlocker quiet(view->selectionModel());
+        if (*shown != twin.rows) {
+            *shown = twin.rows;
+            model->setStringList(to_rows(twin.rows));
+        }
+        if (view->currentIndex().row() != twin.selected) view->setCurrentIndex(model->index(twin.selected));
+        view->setEnabled(twin.enabled);
+    });
+    return view;
+}
+
+QComboBox* ControlBinder::combo(const std::string& name, const std::string& accessible_name, ComboBox& twin,
+                                Procedure change) {
+    auto* const box = named(new QComboBox(parent), name);
+    box->setAccessibleName(to_qt(accessible_name));
+    box->setEditable(true);
+    box->addItems(to_rows(twin.rows));
+    QObject::connect(box, &QComboBox::currentTextChanged, box,
+                     [this, &twin, change = std::move(change)](const QString& text) {
+                         twin.text = from_qt(text);
+                         run(change);
+                     });
+    steps.emplace_back([box, &twin] {
+        const QSignalBlocker quiet(box);
+        if (box->currentText() != to_qt(twin.text)) box->setCurrentText(to_qt(twin.text));
+        box->setEnabled(twin.enabled);
+    });
+    return box;
+}
+
+QScrollBar* ControlBinder::scroll_bar(const std::string& name, const std::string& accessible_name,
+                                      ScrollBar& twin, Procedure change) {
+    auto* const bar = named(new QScrollBar(Qt::Horizontal, parent), name);
+    bar->setAccessibleName(to_qt(accessible_name));
+    bar->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(bar, &QScrollBar::valueChanged, bar,
+                     [this, &twin, change = std::move(change)](int value) {
+                         twin.value = static_cast<std::int16_t>(value);
+                         run(change);
+                     });
+    steps.emplace_back([bar, &twin] {
+        const QSignalBlocker quiet(bar);
+        bar->setRange(twin.min, twin.max);
+        bar->setSingleStep(twin.small_change);
+        bar->setPageStep(twin.large_change);
+        bar->setValue(twin.value);
+    });
+    return bar;
+}
+
+QFrame* ControlBinder::colour_box(const std::string& name, const std::string& accessible_name,
+                                  const ColourBox& twin) {
+    auto* const box = named(new QFrame(parent), name);
+    box->setAccessibleName(to_qt(accessible_name));
+    box->setFrameShape(QFrame::Box);
+    box->setAutoFillBackground(true);
+    steps.emplace_back([box, &twin] {
+        QPalette palette;
+        palette.setColor(QPalette::Window, to_qt_colour(twin.back_colour, box->parentWidget()->palette()));
+        box->setPalette(palette);
+    });
+    return box;
+}
