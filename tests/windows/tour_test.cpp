@@ -1,6 +1,6 @@
 // The program from start to exit as a user drives it. Every window that is met leaves a picture.
 
-#include "tests/windows/desktop.h"
+#include "tests/windows/tour.h"
 
 #include "core/files.h"
 
@@ -22,42 +22,13 @@
 
 namespace {
 
-class Tour : public testing::Test {
-  protected:
-    Tour() {
-        const QSize screen = QApplication::primaryScreen()->size();
-        pictures = QString(TOUR_DIRECTORY) + QString("/%1x%2").arg(screen.width()).arg(screen.height());
-        QDir(pictures).removeRecursively();
-        QDir().mkpath(pictures);
-    }
-
-    void picture(QWidget* of, const char* name) {
-        QTest::qWait(30);
-        EXPECT_TRUE(of->grab().save(pictures + "/" + name + ".png")) << name;
-    }
-
-    void choose_file(const char* entry, const std::string& path, const char* name) {
-        desktop.with_dialog([&] { desktop.entry(entry)->trigger(); },
-                            [&](QWidget* dialog) {
-                                auto* const edit = dialog->findChild<QLineEdit*>("fileNameEdit");
-                                ASSERT_NE(edit, nullptr);
-                                edit->setText(QString::fromStdString(path));
-                                picture(dialog, name);
-                                QTest::keyClick(edit, Qt::Key_Return);
-                            });
-        QTest::qWait(30);
-    }
-
-    /// The bytes that the campaign is saved as.
-    static std::string saved(const std::string& path) { return files::read(path); }
-
-    Desktop desktop;
-    QString pictures;
-};
+/// The bytes that the campaign is saved as.
+std::string saved(const std::string& path) { return files::read(path); }
 
 } // namespace
 
 TEST_F(Tour, FromStartToExit) {
+    leave_pictures_in("");
     desktop.start();
     ASSERT_NE(desktop.window(), nullptr);
     desktop.splash_picture.save(pictures + "/01 splash.png");

@@ -164,7 +164,8 @@ void UnitMaker::add_holdings(oUnits& unit) {
             held->Index = element->ID;
             held->quantity = static_cast<std::int16_t>(holding.quantity);
             held->experience = side == 0 ? "Regular" : unit.nationality == "German" ? "Veteran" : "Green";
-            held->ammo = element->max_ammo;
+            // A tenth of a load, in rounds, for a squad: the sums of a whole army still fit 16 bits.
+            held->ammo = std::min<std::int16_t>(element->max_ammo, 120);
             held->FireFanAngle = static_cast<std::int16_t>(side == 0 ? 215 : 35);
             held->KIA = static_cast<std::int16_t>(program.campaign.colUnits.count() % 4 == 0 ? 2 : 0);
             held->MIA = static_cast<std::int16_t>(program.campaign.colUnits.count() % 9 == 0 ? 1 : 0);
