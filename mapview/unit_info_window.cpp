@@ -30,6 +30,7 @@ UnitInfoView::UnitInfoView(Program& program, const Sprites& sprites, std::span<c
                            double area_top, EventRunner& events, QWidget* parent)
     : SidePanel("picUnitInfo", program.main.picUnitInfo, area_top, events, parent), program(program),
       sprites(sprites) {
+    comes_to_front = false; // an open tool or the tray stays before it
     QVBoxLayout* const page = make_page();
     page->addWidget(identity());
     page->addWidget(figures());

@@ -38,7 +38,7 @@ void SidePanel::bring_in_step() {
     if (geometry() != place) setGeometry(place);
     if (twin.visible && !isVisibleTo(parentWidget())) {
         show();
-        raise();
+        if (comes_to_front) raise();
     }
     if (!twin.visible) hide();
     if (twin.visible) bind.bring_in_step();

@@ -22,6 +22,7 @@ class SidePanel : public QFrame {
     QVBoxLayout* make_page();
 
     ControlBinder bind;
+    bool comes_to_front = true; // when it is shown
 
   private:
     const PictureBox& twin;

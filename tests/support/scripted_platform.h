@@ -65,6 +65,13 @@ class ScriptedPlatform : public QuietPlatform {
         if (marker_failures.contains(path)) throw Failure{marker_failures.at(path)};
         return QuietPlatform::load_marker(path, colour);
     }
+    std::int32_t colour_dialog(std::int32_t /*start*/) override {
+        if (!chosen_colour) throw Failure{failure::cancelled};
+        const std::int32_t chosen = *chosen_colour;
+        chosen_colour.reset();
+        return chosen;
+    }
+    void popup_menu(const std::string& menu) override { log.push_back("popup " + menu); }
     std::vector<std::string> fonts() override { return font_names; }
     bool has_font(const std::string& name) override { return !missing_fonts.contains(name); }
     WorkArea work_area() override {
@@ -95,6 +102,7 @@ class ScriptedPlatform : public QuietPlatform {
     std::deque<Answer> answers;
     std::deque<std::string> chosen_files;
     std::optional<Font> chosen_font;
+    std::optional<std::int32_t> chosen_colour;
     std::map<std::string, std::function<void(Form&)>> on_modal;
     std::function<void(const MessageBox&)> on_message;
     std::function<void()> before_file_dialog_answers;

@@ -106,6 +106,8 @@ class MapTour : public Tour {
         for (int i = 1; i < desktop.program.campaign.gNextUnitIndex; ++i)
             in_tray = in_tray || main().imgUnit(i).container == Container::tray;
         EXPECT_TRUE(in_tray);
+        EXPECT_EQ(tray->parentWidget()->childAt(tray->geometry().center()), tray)
+            << "before the unit's panel";
         picture(desktop.window(), "05 unit in the tray");
         QTest::mouseClick(desktop.control<QPushButton>("cmdUTClose"), Qt::LeftButton);
         EXPECT_FALSE(tray->isVisible());

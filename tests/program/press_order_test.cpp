@@ -1,0 +1,256 @@
+#include "program/press_order.h"
+
+#include "mapview/selection.h"
+#include "tests/support/map_test.h"
+
+#include <functional>
+#include <random>
+
+namespace {
+
+/// How to make the condition of a row true.
+struct RowState {
+    int number;
+    std::function<void(Program&)> set;
+};
+
+const std::vector<RowState> states{{1, [](Program& p) { p.campaign.moving_fire_mission = true; }},
+                                   {2, [](Program& p) { p.campaign.selecting_fire_mission = true; }},
+                                   {3, [](Program& p) { p.campaign.placing_fire_mission = true; }},
+                                   {4, [](Program& p) { p.main.moving_polygon = true; }},
+                                   {5, [](Program& p) { p.main.inserting_polygon_point = true; }},
+                                   {6, [](Program& p) { p.main.deleting_polygon_point = true; }},
+                                   {7, [](Program& p) { p.main.deleting_polygon = true; }},
+                                   {8, [](Program& p) { p.main.drawing_polygon = true; }},
+                                   {9, [](Program& p) { p.main.moving_waypoint = true; }},
+                                   {10, [](Program& p) { p.main.set_waypoints = true; }},
+                                   {11, [](Program& p) { p.main.showing_range_circles = true; }},
+                                   {12, [](Program& p) { p.main.checking_range = true; }},
+                                   {13, [](Program& p) { p.main.checking_path_range = true; }},
+                                   {15, [](Program& p) { p.main.drawing_aoo = true; }},
+                                   {16, [](Program& p) { p.main.transferring_fe = true; }},
+                                   {17,
+                                    [](Program& p) {
+                                        p.campaign.colSelectedUnits->add(std::make_shared<oUnits>(), "a");
+                                        p.campaign.colSelectedUnits->add(std::make_shared<oUnits>(), "b");
+                                    }},
+                                   {18, [](Program& p) { p.main.setting_firefan = true; }},
+                                   {19, [](Program& p) { p.main.placing_shape = true; }},
+                                   {20, [](Program& p) { p.main.moving_shape = true; }},
+                                   {22, [](Program& p) { p.main.place_unit = true; }},
+                                   {23, [](Program& p) { p.main.inserting_line_point = true; }},
+                                   {24, [](Program& p) { p.main.moving_line_point = true; }},
+                                   {26, [](Program& p) { p.main.deleting_line = true; }},
+                                   {27, [](Program& p) { p.main.deleting_line_point = true; }},
+                                   {28, [](Program& p) { p.main.drawing_lines = true; }},
+                                   {29, [](Program& p) { p.campaign.placing_label = true; }},
+                                   {30, [](Program& p) { p.main.picPlaceShapes.visible = true; }}};
+
+/// The rows that a press acts on, in order; every row answers as the real one goes on or ends.
+std::vector<int> acted;
+
+template <std::size_t Row> Outcome record(Program& program, const MapPress& press) {
+    static_cast<void>(program);
+    static_cast<void>(press);
+    const int number = static_cast<int>(Row);
+    acted.push_back(number);
+    const bool on = (number >= 11 && number <= 14) || number == 21 || (number >= 30 && number <= 32);
+    return on ? Outcome::goes_on : Outcome::done;
+}
+
+template <std::size_t... Rows> std::vector<PressRow> recording(std::index_sequence<Rows...> /*rows*/) {
+    std::vector<PressRow> rows(tool_order().presses.begin(), tool_order().presses.end());
+    ((rows[Rows].act = record<Rows>), ...);
+    return rows;
+}
+
+class PressOrder : public MapTest {
+  protected:
+    PressOrder() : rows(recording(std::make_index_sequence<34>())) { program.tool_order.presses = rows; }
+
+    std::vector<int> acting(int button) {
+        acted.clear();
+        mouse_down(program, {}, {button, 0, 100, 100});
+        return acted;
+    }
+
+    std::vector<PressRow> rows;
+};
+
+} // namespace
+
+TEST(PressTable, RowsStandInOrderEachOnce) {
+    int number = 0;
+    for (const PressRow& row : tool_order().presses) EXPECT_EQ(row.number, number++);
+    EXPECT_EQ(number, 34);
+}
+
+TEST_F(PressOrder, PressWithNoToolClosesThePanelAndStartsABandOrAPan) {
+    EXPECT_EQ(acting(left_button), (std::vector<int>{21, 31}));
+    EXPECT_EQ(acting(right_button), (std::vector<int>{21, 32}));
+    EXPECT_EQ(acting(4), (std::vector<int>{21}));
+}
+
+TEST_F(PressOrder, EachRowActsOnItsButtonsAlone) {
+    struct Expected {
+        std::vector<int> left;
+        std::vector<int> right;
+        std::vector<int> middle;
+    };
+    const auto only = [](int row) { return std::vector<int>{row}; };
+    const std::vector<int> left{21, 31};
+    const std::vector<int> right{21, 32};
+    const std::vector<int> middle{21};
+    const std::map<int, Expected> expected{{1, {only(1), only(1), only(1)}},
+                                           {2, {only(2), only(2), only(2)}},
+                                           {3, {only(3), only(3), only(3)}},
+                                           {4, {only(4), right, middle}},
+                                           {5, {only(5), right, middle}},
+                                           {6, {only(6), right, middle}},
+                                           {7, {only(6), only(7), middle}},
+                                           {8, {only(8), only(8), only(8)}},
+                                           {9, {only(9), right, middle}},
+                                           {10, {only(10), only(10), only(10)}},
+                                           {11, {{11, 21, 31}, {11, 21, 32}, {11, 21}}},
+                                           {12, {{12, 21, 31}, {21, 32, 33}, middle}},
+                                           {13, {{13, 21, 31}, {14, 21, 32}, middle}},
+                                           {15, {only(15), only(15), only(15)}},
+                                           {16, {only(16), only(16), only(16)}},
+                                           {17, {only(17), only(17), only(17)}},
+                                           {18, {only(18), only(18), only(18)}},
+                                           {19, {only(19), only(19), only(19)}},
+                                           {20, {only(20), only(20), only(20)}},
+                                           {22, {{21, 22}, right, middle}},
+                                           {23, {{21, 23}, right, middle}},
+                                           {24, {{21, 24}, {21, 25}, middle}},
+                                           {26, {{21, 26}, {21, 26}, {21, 26}}},
+                                           {27, {{21, 27}, {21, 27}, {21, 27}}},
+                                           {28, {{21, 28}, {21, 28}, {21, 28}}},
+                                           {29, {{21, 29}, {21, 29}, {21, 29}}},
+                                           {30, {{21, 30, 31}, right, middle}}};
+    for (const RowState& state : states) {
+        const Campaign campaign_before = campaign;
+        const ToolFlags flags_before = main;
+        state.set(program);
+        EXPECT_EQ(acting(left_button), expected.at(state.number).left) << state.number;
+        EXPECT_EQ(acting(right_button), expected.at(state.number).right) << state.number;
+        EXPECT_EQ(acting(4), expected.at(state.number).middle) << state.number;
+        campaign = campaign_before;
+        static_cast<ToolFlags&>(main) = flags_before;
+        campaign.colSelectedUnits.drop();
+        main.picPlaceShapes.visible = false;
+    }
+}
+
+TEST_F(PressOrder, OfTwoToolsTheEarlierActsAndEndsUnlessItGoesOn) {
+    for (const RowState& first : states)
+        for (const RowState& second : states) {
+            if (first.number >= second.number) continue;
+            static_cast<ToolFlags&>(main) = {};
+            campaign.placing_label = campaign.placing_fire_mission = false;
+            campaign.selecting_fire_mission = campaign.moving_fire_mission = false;
+            campaign.colSelectedUnits.drop();
+            main.picPlaceShapes.visible = false;
+            first.set(program);
+            const std::vector<int> alone = acting(left_button);
+            second.set(program);
+            const std::vector<int> both = acting(left_button);
+            ASSERT_FALSE(both.empty());
+            EXPECT_EQ(both.front(), std::min(alone.front(), both.front()));
+            EXPECT_TRUE(std::is_sorted(both.begin(), both.end()));
+            const bool ends = alone.size() == 1;
+            if (ends) EXPECT_EQ(both, alone) << first.number << " and " << second.number;
+        }
+}
+
+TEST_F(PressOrder, MarkerOffersThePressToTheEarlyRowsAndThenToLineAndLabelTools) {
+    const auto unit = add_marked("{1}", 500, 500);
+    for (const RowState& state : states) {
+        static_cast<ToolFlags&>(main) = {};
+        campaign.placing_label = campaign.placing_fire_mission = false;
+        campaign.selecting_fire_mission = campaign.moving_fire_mission = false;
+        campaign.colSelectedUnits.drop();
+        main.picPlaceShapes.visible = false;
+        main.picUnitInfo.visible = false;
+        state.set(program);
+        acted.clear();
+        press_unit(*unit);
+        const int n = state.number;
+        const bool map_only = n == 17 || n == 20 || n == 30;
+        const int row = n == 7 ? 6 : n == 16 ? 0 : n;
+        EXPECT_EQ(acted, map_only ? std::vector<int>{} : std::vector<int>{row}) << n;
+        const bool goes_on = (n >= 11 && n <= 13) || map_only;
+        EXPECT_EQ(main.picUnitInfo.visible, goes_on && n != 17) << n;
+    }
+}
+
+TEST_F(MapTest, MarkerInHandChangesUnlessThreeToolsAreOnTogether) {
+    const auto unit = add_marked("{1}", 500, 500);
+    program.tool_order = {};
+    main.place_unit = main.moving_line_point = main.drawing_lines = true;
+    press_unit(*unit);
+    EXPECT_EQ(main.drag_index, 0);
+    main.place_unit = false;
+    press_unit(*unit);
+    EXPECT_EQ(main.drag_index, 1);
+}
+
+TEST_F(MapTest, PressOnALabelIsOfferedLikeOneOnTheMap) {
+    MapLabel& label = main.lblUser.load(1);
+    label.visible = true;
+    label.left = label.top = 100;
+    label.width = label.height = 50;
+    main.checking_range = true;
+    press(110, 120);
+    EXPECT_EQ(main.shpAnchor[0].left, 110 - 3.5);
+}
+
+TEST_F(MapTest, AbortingATransferAsks) {
+    main.transferring_fe = true;
+    platform.answers = {Answer::no};
+    press(2000, 2000);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Abort transfering force element?"});
+    EXPECT_TRUE(main.transferring_fe);
+    platform.answers = {Answer::yes};
+    press(2000, 2000);
+    EXPECT_FALSE(main.transferring_fe);
+}
+
+TEST_F(MapTest, RightPressIsStoredWhicheverRowActs) {
+    main.drawing_aoo = true;
+    press(700, 800, right_button);
+    EXPECT_EQ(main.popup_x, 700);
+    EXPECT_EQ(main.popup_y, 800);
+}
+
+TEST_F(MapTest, DrawingLinesAndSelectingMissionsKeepARightReleaseFromPanning) {
+    for (bool* flag : {&main.drawing_lines, &campaign.selecting_fire_mission}) {
+        *flag = true;
+        main.popup_x = main.popup_y = 500;
+        release(400, 400, right_button);
+        EXPECT_EQ(main.scrlHMap.value, 0);
+        *flag = false;
+    }
+    main.aoo_popup_guard = true;
+    release(400, 400);
+    EXPECT_TRUE(main.aoo_popup_guard) << "a left release is not guarded against";
+    release(400, 400, right_button);
+    EXPECT_FALSE(main.aoo_popup_guard);
+    EXPECT_EQ(main.scrlHMap.value, 0);
+    release(400, 400, right_button);
+    EXPECT_EQ(main.scrlHMap.value, 100);
+}
+
+TEST_F(MapTest, ScratchLinesFollowThePointerWithTheirFreeEnds) {
+    main.linTempLine = {1, 2, 3, 4, true};
+    main.linTempLine2 = {5, 6, 7, 8, true};
+    move(50, 60);
+    EXPECT_EQ(main.linTempLine.x1, 1);
+    EXPECT_EQ(main.linTempLine.x2, 50);
+    EXPECT_EQ(main.linTempLine2.y1, 6);
+    EXPECT_EQ(main.linTempLine2.y2, 60);
+    main.linTempLine.visible = false;
+    mouse_move(program, {TargetKind::label, 1}, {0, 0, 70, 80});
+    EXPECT_EQ(main.linTempLine.x2, 50);
+    EXPECT_EQ(main.linTempLine2.x2, 70);
+}
