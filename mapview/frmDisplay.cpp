@@ -37,29 +37,22 @@ void frmDisplay::chkShowWaypoints_Click() { enable_options(); }
 void frmDisplay::chkShowFirefans_Click() { enable_options(); }
 void frmDisplay::chkUnitsecurityzone_Click() { enable_options(); }
 
-void frmDisplay::cmdSelectAll_Click() {
+void frmDisplay::set_all(bool on) {
     for (CheckBox* box :
          {&chkMmUnits, &chkMmLabels, &chkMmLines, &chkMmShapes, &chkMmPolygons, &chkMmFireMissions,
           &chkShowAOO, &chkShowWaypoints, &chkWayptData, &chkShowFirefans, &chkMmUnitName, &chkMmUnitHQname,
           &chkOmUnits, &chkOmFirefans, &chkOmLines, &chkUnitsecurityzone, &chkUSZfilled})
-        box->value = true;
+        box->value = on;
     for (auto* options : {&optAOO, &optWaypt, &optFirefans, &optUSZ}) {
         (*options)[0].value = false;
-        (*options)[1].value = true;
+        (*options)[1].value = on;
     }
     enable_options();
 }
 
-void frmDisplay::cmdClearAll_Click() {
-    for (CheckBox* box :
-         {&chkMmUnits, &chkMmLabels, &chkMmLines, &chkMmShapes, &chkMmPolygons, &chkMmFireMissions,
-          &chkShowAOO, &chkShowWaypoints, &chkWayptData, &chkShowFirefans, &chkMmUnitName, &chkMmUnitHQname,
-          &chkOmUnits, &chkOmFirefans, &chkOmLines, &chkUnitsecurityzone, &chkUSZfilled})
-        box->value = false;
-    for (auto* options : {&optAOO, &optWaypt, &optFirefans, &optUSZ})
-        for (OptionButton& option : *options) option.value = false;
-    enable_options();
-}
+void frmDisplay::cmdSelectAll_Click() { set_all(true); }
+
+void frmDisplay::cmdClearAll_Click() { set_all(false); }
 
 void frmDisplay::cmdOK_Click() {
     DisplayOptions& options = program.campaign;

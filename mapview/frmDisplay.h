@@ -48,6 +48,8 @@ struct frmDisplay : Form {
 
   private:
     void enable_options();
+    /// Every box on and every choice "All units", or everything off.
+    void set_all(bool on);
 };
 
 /// Shows the form and applies what it was left with.

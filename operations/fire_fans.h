@@ -8,7 +8,7 @@ std::int16_t firefan_angle(const oUnits& unit, double x, double y);
 /// Turns the fan of `curUFE` to a map pixel and repaints. Has a trap of its own.
 void set_firefan_angle(Program& program, double x, double y);
 
-/// Layer: the fans of all units and the overview's lines; both start from an empty overview.
+/// Layer: what the overview shows, drawn anew: the fans of all units, then the lines.
 void draw_overview(Program& program, Painting& painting);
 
 /// Layer: the fans of all units, or of the one whose panel is open.
