@@ -23,7 +23,7 @@ class MedianReporter : public benchmark::ConsoleReporter {
 } // namespace
 
 int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios) {
-    std::vector<std::string> options{"--benchmark_repetitions=7",
+    std::vector<std::string> options{"--benchmark_repetitions=15",
                                      "--benchmark_enable_random_interleaving=true",
                                      "--benchmark_report_aggregates_only=true"};
     std::vector<char*> arguments{argv[0]};
@@ -41,6 +41,7 @@ int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios) {
                 if (run == name || run.rfind(name + "/", 0) == 0) return median;
             return 0.0;
         };
+        if (median_of(ratio.measured) == 0 || median_of(ratio.against) == 0) continue; // filtered out
         const double is = median_of(ratio.measured) / median_of(ratio.against);
         const bool within = is <= ratio.limit;
         all_within = all_within && within;

@@ -190,7 +190,7 @@ template <class T> class CollectionRef {
     CollectionRef(const CollectionRef& other) : held(other.made()) {}
     CollectionRef(CollectionRef&& other) noexcept = default;
     CollectionRef& operator=(const CollectionRef& other) {
-        held = other.made();
+        if (this != &other) held = other.made();
         return *this;
     }
     CollectionRef& operator=(CollectionRef&& other) noexcept = default;
