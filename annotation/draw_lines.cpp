@@ -3,6 +3,8 @@
 #include "annotation/boundary.h"
 #include "core/unit_place.h"
 
+#include <cmath>
+
 namespace {
 
 /// The drawing style of a line; styles that old files hold and nobody can choose are solid.
@@ -10,12 +12,21 @@ int draw_style(const oLines& line) {
     return line.linestyle >= 1 && line.linestyle <= 5 ? line.linestyle - 1 : 0;
 }
 
+/// What a boundary can touch between two vertices. Its halves follow a heading of whole degrees, so that they
+/// stray from a long segment.
+Bounds boundary_bounds(Point from, Point to, int width) {
+    constexpr double sign = 40;
+    constexpr double straying = 0.02;
+    const double length = std::abs(to.x - from.x) + std::abs(to.y - from.y);
+    return bounds_of(from, to).grown_by(sign + straying * length + width);
+}
+
 void draw_boundary(Surface& map, const oLines& line) {
     Point last = place_of(*line.colCoords->at(1));
     bool first = true;
     for (const auto& vertex : line.colCoords) {
         const Point here = place_of(*vertex);
-        if (!first) {
+        if (!first && map.wants(boundary_bounds(last, here, line.linewidth))) {
             const std::vector<Point> strokes = boundary_strokes(last, here, line.boundry_size);
             for (std::size_t i = 0; i + 1 < strokes.size(); i += 2) map.line(strokes[i], strokes[i + 1]);
         }

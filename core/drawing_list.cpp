@@ -1,55 +1,54 @@
 #include "core/drawing_list.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace {
 
-Bounds around(const std::vector<Point>& points, double margin) {
-    Bounds all{points.front().x, points.front().y, points.front().x, points.front().y};
-    for (const Point& point : points) {
-        all.left = std::min(all.left, point.x);
-        all.top = std::min(all.top, point.y);
-        all.right = std::max(all.right, point.x);
-        all.bottom = std::max(all.bottom, point.y);
-    }
-    return {all.left - margin, all.top - margin, all.right + margin, all.bottom + margin};
-}
-
-/// A text's size is the font's affair; this is an outer bound of it for any common font.
-Bounds around_text(Point at, const std::string& text, int font_size) {
-    const double em = 2.0 * font_size;
-    const auto lines = 1 + std::count(text.begin(), text.end(), '\n');
-    return {at.x - em, at.y - em, at.x + em * static_cast<double>(text.size() + 1),
-            at.y + em * static_cast<double>(lines + 1)};
+Bounds around(const std::vector<Point>& points) {
+    Bounds all = bounds_of(points.front());
+    for (const Point& point : points) all = all.with(bounds_of(point));
+    return all;
 }
 
 } // namespace
 
-void DrawingList::keep(Figure figure) {
-    if (figure.points.empty()) return;
-    figure.bounds = figure.kind == Kind::print
-                        ? around_text(figure.points.front(), figure.text, figure.pen.FontSize)
-                        : around(figure.points, figure.radius + figure.pen.DrawWidth + 1);
-    drawn.push_back(std::move(figure));
+DrawingList::Figure* DrawingList::keep(Kind kind, const Bounds& bounds) {
+    if (!wants(bounds)) return nullptr;
+    drawn.push_back({kind, pen, {}, 0, 0, 0, {}, bounds});
+    return &drawn.back();
 }
 
-void DrawingList::line(Point from, Point to) { keep({Kind::line, pen, {from, to}, 0, 0, 0, {}, {}}); }
-
-void DrawingList::circle(Point centre, double radius) {
-    keep({Kind::circle, pen, {centre}, radius, 0, 0, {}, {}});
+DrawingList::Figure* DrawingList::keep_round(Kind kind, Point centre, double radius) {
+    Figure* const figure = keep(kind, bounds_of(centre).grown_by(radius + pen.DrawWidth + 1));
+    if (figure == nullptr) return nullptr;
+    figure->points = {centre};
+    figure->radius = radius;
+    return figure;
 }
+
+void DrawingList::line(Point from, Point to) {
+    Figure* const figure = keep(Kind::line, bounds_of(from, to).grown_by(pen.DrawWidth + 1));
+    if (figure != nullptr) figure->points = {from, to};
+}
+
+void DrawingList::circle(Point centre, double radius) { keep_round(Kind::circle, centre, radius); }
 
 void DrawingList::pie(Point centre, double radius, double start, double end) {
-    keep({Kind::pie, pen, {centre}, radius, start, end, {}, {}});
+    Figure* const figure = keep_round(Kind::pie, centre, radius);
+    if (figure == nullptr) return;
+    figure->start = start;
+    figure->end = end;
 }
 
 void DrawingList::polygon(const std::vector<Point>& points) {
-    keep({Kind::polygon, pen, points, 0, 0, 0, {}, {}});
+    if (points.empty()) return;
+    Figure* const figure = keep(Kind::polygon, around(points).grown_by(pen.DrawWidth + 1));
+    if (figure != nullptr) figure->points = points;
 }
 
 void DrawingList::print(Point at, const std::string& text) {
-    keep({Kind::print, pen, {at}, 0, 0, 0, text, {}});
+    Figure* const figure = keep(Kind::print, text_bounds(at, text.size(), pen.FontSize));
+    if (figure == nullptr) return;
+    figure->points = {at};
+    figure->text = text;
 }
 
 void DrawingList::replay(Surface& target, const Bounds& wanted) const {

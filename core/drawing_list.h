@@ -6,19 +6,8 @@
 #include <string>
 #include <vector>
 
-struct Bounds {
-    double left = 0;
-    double top = 0;
-    double right = 0;
-    double bottom = 0;
-
-    bool meets(const Bounds& other) const {
-        return left <= other.right && other.left <= right && top <= other.bottom && other.top <= bottom;
-    }
-};
-
-/// A surface that keeps what is drawn on it, each figure with the pen as it stood. The window replays the
-/// figures that are in view, as often as the map is scrolled or uncovered.
+/// A surface that keeps what is drawn on it, each figure with the pen as it stood, as far as it is wanted.
+/// The window replays the figures that are in view, as often as the map is scrolled or uncovered.
 class DrawingList : public Surface {
   public:
     enum class Kind : std::uint8_t { line, circle, pie, polygon, print };
@@ -32,6 +21,11 @@ class DrawingList : public Surface {
         double end = 0;
         std::string text;
         Bounds bounds; // what the figure can touch, width of the pen included
+
+        bool operator==(const Figure& other) const {
+            return kind == other.kind && pen == other.pen && points == other.points &&
+                   radius == other.radius && start == other.start && end == other.end && text == other.text;
+        }
     };
 
     void line(Point from, Point to) override;
@@ -49,7 +43,9 @@ class DrawingList : public Surface {
     void replay(Surface& target, const Bounds& wanted) const;
 
   private:
-    void keep(Figure figure);
+    /// A new figure of these bounds, or nothing when it is not wanted.
+    Figure* keep(Kind kind, const Bounds& bounds);
+    Figure* keep_round(Kind kind, Point centre, double radius);
 
     std::vector<Figure> drawn;
 };

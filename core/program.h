@@ -16,13 +16,32 @@
 
 struct Program;
 
+/// The pens of all surfaces.
+struct Pens {
+    Pen map;
+    Pen hcoord;
+    Pen vcoord;
+    Pen overview;
+
+    bool operator==(const Pens&) const = default;
+};
+
 /// What the layers draw on. The overview's and the rulers' pens are their own.
 struct Painting {
     DrawingList map;
     DrawingList hcoord;
     DrawingList vcoord;
     DrawingList overview;
+    Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
+
+    Pens pens() const { return {map.pen, hcoord.pen, vcoord.pen, overview.pen}; }
+    void set_pens(const Pens& pens) {
+        map.pen = pens.map;
+        hcoord.pen = pens.hcoord;
+        vcoord.pen = pens.vcoord;
+        overview.pen = pens.overview;
+    }
 };
 
 /// One layer of the map: it is painted when its gate is open, above all layers before it.

@@ -2,7 +2,10 @@
 
 #include "core/controls.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -27,6 +30,43 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
+/// A box along the axes, its edges included.
+struct Bounds {
+    double left = -std::numeric_limits<double>::infinity();
+    double top = -std::numeric_limits<double>::infinity();
+    double right = std::numeric_limits<double>::infinity();
+    double bottom = std::numeric_limits<double>::infinity();
+
+    bool meets(const Bounds& other) const {
+        return left <= other.right && other.left <= right && top <= other.bottom && other.top <= bottom;
+    }
+    bool holds(const Bounds& other) const {
+        return left <= other.left && other.right <= right && top <= other.top && other.bottom <= bottom;
+    }
+    Bounds grown_by(double margin) const {
+        return {left - margin, top - margin, right + margin, bottom + margin};
+    }
+    /// The smallest box that holds this one and the other.
+    Bounds with(const Bounds& other) const {
+        return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
+                std::max(bottom, other.bottom)};
+    }
+};
+
+inline Bounds bounds_of(Point point) { return {point.x, point.y, point.x, point.y}; }
+
+inline Bounds bounds_of(Point a, Point b) {
+    return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
+}
+
+/// What a text of so many letters can touch at most. Its size is the font's affair: this is an outer bound
+/// for any common one, also when every letter is a line of its own.
+inline Bounds text_bounds(Point at, std::size_t letters, int font_size) {
+    const double em = 2.0 * font_size;
+    const double reach = em * static_cast<double>(letters + 1);
+    return {at.x - em, at.y - em, at.x + reach, at.y + reach};
+}
+
 /// A drawing surface with one pen. Pixels, y down; angles in radians, counter-clockwise from the east.
 class Surface {
   public:
@@ -38,6 +78,9 @@ class Surface {
     virtual ~Surface() = default;
 
     Pen pen;
+    Bounds wanted; // what lies outside need not be drawn; the pen changes all the same
+
+    bool wants(const Bounds& figure) const { return wanted.meets(figure); }
 
     virtual void line(Point from, Point to) = 0;
     virtual void circle(Point centre, double radius) = 0;

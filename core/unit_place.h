@@ -33,3 +33,14 @@ void draw_path(Surface& surface, const Vertices& vertices, Place place) {
         last = here;
     }
 }
+
+/// Draws a polygon with these corners; there must be one at least.
+template <class Vertices, class Place>
+void draw_closed(Surface& surface, const Vertices& vertices, Place place) {
+    Bounds around = bounds_of(place(*vertices->at(1)));
+    for (const auto& vertex : vertices) around = around.with(bounds_of(place(*vertex)));
+    if (!surface.wants(around.grown_by(surface.pen.DrawWidth + 1))) return;
+    std::vector<Point> corners;
+    for (const auto& vertex : vertices) corners.push_back(place(*vertex));
+    surface.polygon(corners);
+}

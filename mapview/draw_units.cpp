@@ -19,9 +19,12 @@ template <class Print> void print_names(const Program& program, Surface& map, Pr
     map.pen.FontSize = 8;
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
+    // A name starts beside its marker and goes on to the right and down, however long it is.
+    const double em = 2.0 * map.pen.FontSize;
     for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) {
         const UnitMarker& marker = program.main.imgUnit(i);
         if (!marker.visible || marker.tag == deleted_tag) continue;
+        if (marker.left - em > map.wanted.right || marker.top - em > map.wanted.bottom) continue;
         print(marker, *program.campaign.colUnits->item(marker.tag));
     }
     map.pen.FontBold = false;

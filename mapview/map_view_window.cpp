@@ -4,6 +4,7 @@
 #include "mapview/map_controls_window.h"
 #include "mapview/map_mouse.h"
 #include "mapview/mouse_press_window.h"
+#include "mapview/painting.h"
 #include "mapview/scrolling.h"
 #include "widgets/map_image.h"
 #include "widgets/painter_surface.h"
@@ -42,13 +43,14 @@ void MapView::paint_view(QPainter& painter, const QRect& exposed) const {
     if (picture == nullptr) return;
     const QPoint offset = origin().toPoint();
     const QRect wanted = exposed.translated(-offset);
-    if (!QRect(0, 0, picture->width(), picture->height()).contains(wanted))
-        painter.fillRect(exposed, palette().window());
+    const QRect on_map(offset, picture->map.size());
+    if (!on_map.contains(exposed)) painter.fillRect(exposed, palette().window());
     painter.drawImage(exposed.topLeft(), picture->map, wanted);
     painter.save();
-    painter.setClipRect(exposed);
+    painter.setClipRect(exposed & on_map);
     painter.translate(offset);
     PainterSurface surface(painter);
+    cover_view(program);
     program.painting.map.replay(surface,
                                 {static_cast<double>(wanted.left()), static_cast<double>(wanted.top()),
                                  static_cast<double>(wanted.right()), static_cast<double>(wanted.bottom())});

@@ -6,14 +6,13 @@ namespace {
 
 void draw_area(Surface& map, const oUnits& unit) {
     if (unit.area_of_opeartion.count() < 3) return;
-    std::vector<Point> corners;
-    for (const auto& vertex : unit.area_of_opeartion) corners.push_back(place_in_area(unit, *vertex));
     map.pen.DrawMode = 9;
     map.pen.FillStyle = 0;
     map.pen.DrawWidth = 1;
     map.pen.FillColor = unit.color;
     map.pen.ForeColor = 0;
-    map.polygon(corners);
+    draw_closed(map, unit.area_of_opeartion,
+                [&](const oCoordinates& vertex) { return place_in_area(unit, vertex); });
 }
 
 } // namespace

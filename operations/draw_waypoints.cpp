@@ -12,10 +12,19 @@ void draw_route(Surface& map, const oUnits& unit) {
     draw_path(map, unit.waypoints, [](const oWaypoint& waypoint) { return place_of(waypoint); });
 }
 
+/// What the three texts of a waypoint can touch.
+Bounds texts_bounds(const oWaypoint& waypoint, Point at, int font_size) {
+    constexpr std::size_t numbers_and_words = 60;
+    const std::size_t letters = numbers_and_words + waypoint.end_month.size() + waypoint.end_day.size() +
+                                waypoint.end_hour.size() + waypoint.end_minute.size() + waypoint.notes.size();
+    return text_bounds({at.x - 60, at.y + 8}, letters, font_size);
+}
+
 void print_waypoint(Surface& map, const oWaypoint& waypoint) {
     const Point at = place_of(waypoint);
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
+    if (!map.wants(texts_bounds(waypoint, at, map.pen.FontSize))) return;
     map.print({at.x - 60, at.y + 8}, waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour +
                                          ":" + waypoint.end_minute);
     map.print({at.x - 60, at.y + 20}, format_fixed(waypoint.range / 1000.0, 1, 2) + " Km, at " +

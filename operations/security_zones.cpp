@@ -68,8 +68,10 @@ ZoneRadii small_line_unit_radii(string_view op_status) {
 }
 
 void draw_zones(const Program& program, Surface& map, const oUnits& unit) {
+    constexpr double widest = 303; // two kilometres and the pen
     const bool filled = program.campaign.gDispUSZFilled;
-    const ZoneRadii radii = zone_radii(unit);
+    const bool in_reach = map.wants(bounds_of(place_of(unit)).grown_by(widest));
+    const ZoneRadii radii = in_reach ? zone_radii(unit) : ZoneRadii{};
     map.pen.DrawWidth = 2;
     map.pen.DrawMode = 9;
     map.pen.FillColor = unit.color;

@@ -49,16 +49,31 @@ void PainterSurface::apply_mode() {
                                                          : QPainter::CompositionMode_SourceOver);
 }
 
-QPen PainterSurface::outline() const {
-    return {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), dashes(pen), Qt::RoundCap,
-            Qt::RoundJoin};
+const QPen& PainterSurface::outline() {
+    if (outlined && outlined->ForeColor == pen.ForeColor && outlined->DrawWidth == pen.DrawWidth &&
+        outlined->DrawStyle == pen.DrawStyle)
+        return outline_pen;
+    outlined = pen;
+    outline_pen = {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), dashes(pen), Qt::RoundCap,
+                   Qt::RoundJoin};
+    return outline_pen;
 }
 
-QBrush PainterSurface::fill() const {
+QBrush PainterSurface::fill() {
     const QColor colour = to_qt_colour(pen.FillColor);
     if (pen.FillStyle == 0) return colour;
     if (pen.FillStyle == 1) return Qt::NoBrush;
-    return hatch(pen.FillStyle, colour, pen.DrawMode == mask_mode);
+    const bool mask = pen.DrawMode == mask_mode;
+    QBrush& made = hatches[{pen.FillStyle, pen.FillColor, mask}];
+    if (made.style() == Qt::NoBrush) made = hatch(pen.FillStyle, colour, mask);
+    return made;
+}
+
+const QFont& PainterSurface::font() {
+    const auto [place, is_new] = fonts.try_emplace({pen.FontSize, pen.FontBold});
+    if (is_new)
+        place->second = to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold});
+    return place->second;
 }
 
 template <class Draw> void PainterSurface::fill_and_outline(Draw draw) {
@@ -87,8 +102,8 @@ void PainterSurface::pie(Point centre, double radius, double start, double end) 
     constexpr double units = 16 * 180 / std::numbers::pi; // sixteenths of a degree
     double span = end - start;
     if (span <= 0) span += 2 * std::numbers::pi;
-    const int from = static_cast<int>(start * units); // angles of the painter, not of the rules
-    const int sweep = static_cast<int>(span * units);
+    const int from = qRound(start * units);
+    const int sweep = qRound(span * units);
     fill_and_outline([&] { painter.drawPie(around(centre, radius), from, sweep); });
 }
 
@@ -101,7 +116,7 @@ void PainterSurface::polygon(const std::vector<Point>& points) {
 void PainterSurface::print(Point at, const std::string& text) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setPen(to_qt_colour(pen.ForeColor));
-    painter.setFont(to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold}));
+    painter.setFont(font());
     const QFontMetrics metrics = painter.fontMetrics();
     double baseline = at.y + metrics.ascent();
     for (const QString& line : to_qt(text).split('\n')) {

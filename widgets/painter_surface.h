@@ -3,8 +3,14 @@
 #include "core/surface.h"
 
 #include <QBrush>
+#include <QFont>
 #include <QPainter>
 #include <QPen>
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <tuple>
 
 /// The drawing surface on a painter, without anti-aliasing. The device must be opaque: in mask mode colours
 /// are combined with what is there by AND, outline and fill each for itself.
@@ -24,10 +30,17 @@ class PainterSurface : public Surface {
 
   private:
     void apply_mode();
-    QPen outline() const;
-    QBrush fill() const;
+    const QPen& outline();
+    QBrush fill();
+    const QFont& font();
     /// Fills first, then draws the outline over it.
     template <class Draw> void fill_and_outline(Draw draw);
 
     QPainter& painter;
+
+    // Thousands of figures share a few pens, hatches and fonts, and each is dear to make.
+    std::optional<Pen> outlined;
+    QPen outline_pen;
+    std::map<std::tuple<int, std::int32_t, bool>, QBrush> hatches; // by style, colour, mask
+    std::map<std::pair<int, bool>, QFont> fonts;                   // by size, boldness
 };
