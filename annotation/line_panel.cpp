@@ -53,7 +53,10 @@ void end_drawing(Program& program) {
     frmMain& main = program.main;
     Campaign& campaign = program.campaign;
     if (campaign.curLine) {
-        if (main.optPolyline.value && !main.line_ended && campaign.curLine->is_arrow) find_arrowhead(program);
+        if (main.optPolyline.value && !main.line_ended && campaign.curLine->is_arrow) {
+            find_arrowhead(program);
+            main.picMap.Refresh();
+        }
         main.linTempLine.visible = false;
         campaign.curLine = nullptr;
     }

@@ -81,11 +81,13 @@ BareFigures::BareFigures(const Program& program, QSize view)
       map(picture(program).map) {
     const QRectF in_view(-origin, view);
     const Bounds bounds{in_view.left(), in_view.top(), in_view.right(), in_view.bottom()};
-    for (const Figure& figure : program.painting.map.figures())
-        if (figure.bounds.meets(bounds))
-            figures.push_back({figure.kind, mode_of(figure), pen_of(figure), brush_of(figure),
-                               points_of(figure), box_of(figure), start_of(figure), span_of(figure),
-                               font_of(figure), to_qt(figure.text)});
+    DrawingList seen;
+    seen.wanted = bounds;
+    program.painting.map.replay(seen);
+    for (const Figure& figure : seen.figures())
+        figures.push_back({figure.kind, mode_of(figure), pen_of(figure), brush_of(figure), points_of(figure),
+                           box_of(figure), start_of(figure), span_of(figure), font_of(figure),
+                           to_qt(figure.text)});
 }
 
 void BareFigures::draw(QImage& image) const {

@@ -3,7 +3,7 @@
 #include "benchmarks/bare_figures.h"
 #include "benchmarks/graphics_scene.h"
 #include "benchmarks/ratios.h"
-#include "benchmarks/spread_campaign.h"
+#include "tools/support/spread_campaign.h"
 #include "mapview/map_mouse.h"
 #include "mapview/painting.h"
 #include "mapview/selection.h"
@@ -99,11 +99,14 @@ Scene& largest_scene(bool only_in_view) {
     });
 }
 
-Scene& unit_scene(int units) {
-    return scene(std::to_string(units) + " units", [&] {
-        auto made = std::make_unique<Scene>();
-        made->spread({units, 0, 0, 0});
+/// Ten thousand units over the largest map, with the display options that the program starts with, or the
+/// hundred of them around the view.
+Scene& unit_scene(bool only_near) {
+    return scene(only_near ? "near units" : "all units", [&] {
+        auto made = std::make_unique<Scene>(largest);
+        made->spread({10000, 0, 0, 0}, only_near ? middle_of_largest.grown_by(450) : everywhere);
         static_cast<DisplayOptions&>(made->program.campaign) = DisplayOptions{};
+        made->scroll_to(middle_of_largest.left, middle_of_largest.top);
         return made;
     });
 }
@@ -117,16 +120,12 @@ void bare_repaint(benchmark::State& state) {
     s.repaint();
     const BareFigures bare(s.program, view_size);
     for (auto _ : state) bare.draw(s.image);
-    s.image.save("bare.png");
-    s.repaint();
-    s.image.save("full.png");
 }
 
 void scene_repaint(benchmark::State& state) {
     Scene& s = full_scene();
     const auto graphics = graphics_scene(s.program);
     for (auto _ : state) paint_graphics_scene(*graphics, s.program, s.image);
-    s.image.save("scene.png");
 }
 
 void largest_repaint(benchmark::State& state) {
@@ -179,7 +178,8 @@ void drag_step(benchmark::State& state) {
 }
 
 void press_to_panel(benchmark::State& state) {
-    Scene& s = unit_scene(static_cast<int>(state.range(0)));
+    Scene& s = unit_scene(state.range(0) != 10000);
+    state.counters["units"] = static_cast<double>(s.program.campaign.colUnits.count());
     const QPointF at = in_view(s, unit_in_view(s));
     QWidget* const panel = s.window()->findChild<QWidget*>("picUnitInfo");
     for (auto _ : state) {

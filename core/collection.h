@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/key_index.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -10,14 +11,31 @@
 #include <utility>
 #include <vector>
 
+/// The key of a record, or none. Most records of a campaign are vertices without one, and a walk over them is
+/// the quicker the less lies between them.
+class RecordKey {
+  public:
+    RecordKey() = default;
+    explicit RecordKey(std::string_view text)
+        : letters(std::make_unique_for_overwrite<char[]>(text.size())), length(text.size()) {
+        text.copy(letters.get(), length);
+    }
+
+    bool present() const { return letters != nullptr; }
+    std::string_view text() const { return {letters.get(), length}; }
+
+  private:
+    std::unique_ptr<char[]> letters;
+    std::size_t length = 0;
+};
+
 /// An ordered list of shared records that can also be reached by a text key. The order is that of insertion.
 /// Finding by key and by 1-based position takes constant time, and so does removing by key: the gap is closed
 /// once, at the next walk.
 template <class T> class Collection {
     struct Slot {
         std::shared_ptr<T> item; // empty: removed, the gap not yet closed
-        std::string key;
-        bool keyed;
+        RecordKey key;
     };
 
   public:
@@ -42,7 +60,8 @@ template <class T> class Collection {
         static void fetch(const T* record) {
             constexpr std::size_t line = 64;
             const auto* const bytes = reinterpret_cast<const char*>(record);
-            for (std::size_t at = 0; at < sizeof(T); at += line) __builtin_prefetch(bytes + at);
+            for (std::size_t at = 0; at < std::min<std::size_t>(sizeof(T), 128); at += line)
+                __builtin_prefetch(bytes + at);
         }
 
         const Slot* slot;
@@ -68,19 +87,19 @@ template <class T> class Collection {
     }
 
     /// Appends a record without a key.
-    void add(Item item) { slots.push_back({std::move(item), {}, false}); }
+    void add(Item item) { slots.push_back({std::move(item), {}}); }
 
     /// Appends a record under a key. Fails with 457 when the key is present.
-    void add(Item item, std::string key) {
-        if (!add_new(std::move(item), std::move(key))) throw Failure{failure::key_present};
+    void add(Item item, std::string_view key) {
+        if (!add_new(std::move(item), key)) throw Failure{failure::key_present};
     }
 
     /// Like `add`, but a present key is told by the answer: false, and nothing changes.
-    bool add_new(Item item, std::string key) {
+    bool add_new(Item item, std::string_view key) {
         if (slot_of(key) != none) return false;
-        slots.push_back({std::move(item), std::move(key), true});
+        slots.push_back({std::move(item), RecordKey(key)});
         if (indexed())
-            index.add(slots.back().key, slots.size() - 1);
+            index.add(key, slots.size() - 1);
         else if (slots.size() > largest_without_index)
             build_index();
         return true;
@@ -90,7 +109,7 @@ template <class T> class Collection {
     void insert_after(std::size_t position, Item item) {
         close_gaps();
         if (position > slots.size()) throw Failure{failure::no_such_position};
-        slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(position), Slot{std::move(item), {}, false});
+        slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(position), Slot{std::move(item), {}});
         if (indexed()) build_index();
     }
 
@@ -147,10 +166,9 @@ template <class T> class Collection {
     bool indexed() const { return !index.empty(); }
 
     std::size_t slot_of(std::string_view key) const {
-        if (indexed())
-            return index.find(key, [this](std::size_t slot) { return std::string_view(slots[slot].key); });
+        if (indexed()) return index.find(key, [this](std::size_t slot) { return slots[slot].key.text(); });
         for (std::size_t i = 0; i < slots.size(); ++i)
-            if (slots[i].keyed && slots[i].key == key) return i;
+            if (slots[i].key.present() && slots[i].key.text() == key) return i;
         return none;
     }
 
@@ -163,7 +181,7 @@ template <class T> class Collection {
     void build_index() const {
         index.clear();
         for (std::size_t i = 0; i < slots.size(); ++i)
-            if (slots[i].keyed) index.add(slots[i].key, i);
+            if (slots[i].key.present()) index.add(slots[i].key.text(), i);
     }
 
     void close_gaps() const {

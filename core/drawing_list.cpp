@@ -1,76 +1,146 @@
 #include "core/drawing_list.h"
 
+#include <span>
+
 namespace {
 
-Bounds around(const std::vector<Point>& points) {
+Bounds around(std::span<const Point> points) {
     Bounds all = bounds_of(points.front());
     for (const Point& point : points) all = all.with(bounds_of(point));
     return all;
 }
 
+double margin(const Pen& pen) { return pen.DrawWidth + 1; }
+
+/// Takes each figure down as it comes.
+class Figures : public Surface {
+  public:
+    using Kind = DrawingList::Kind;
+
+    void line(Point from, Point to) override { taken.push_back({Kind::line, pen, {from, to}, 0, 0, 0, {}}); }
+    void circle(Point centre, double radius) override {
+        taken.push_back({Kind::circle, pen, {centre}, radius, 0, 0, {}});
+    }
+    void pie(Point centre, double radius, double start, double end) override {
+        taken.push_back({Kind::pie, pen, {centre}, radius, start, end, {}});
+    }
+    void polygon(const std::vector<Point>& points) override {
+        taken.push_back({Kind::polygon, pen, points, 0, 0, 0, {}});
+    }
+    void print(Point at, const std::string& text) override {
+        taken.push_back({Kind::print, pen, {at}, 0, 0, 0, text});
+    }
+
+    std::vector<DrawingList::Figure> taken;
+};
+
 } // namespace
 
-DrawingList::Figure* DrawingList::keep(Kind kind, const Bounds& bounds) {
-    if (!wants(bounds)) return nullptr;
-    drawn.push_back({kind, pen, {}, 0, 0, 0, {}, bounds});
-    return &drawn.back();
-}
-
-DrawingList::Figure* DrawingList::keep_round(Kind kind, Point centre, double radius) {
-    Figure* const figure = keep(kind, bounds_of(centre).grown_by(radius + pen.DrawWidth + 1));
-    if (figure == nullptr) return nullptr;
-    figure->points = {centre};
-    figure->radius = radius;
-    return figure;
+void DrawingList::keep(Kind kind, std::size_t count) {
+    if (pens.empty() || !(pens.back() == pen)) pens.push_back(pen);
+    entries.push_back({kind, static_cast<std::uint32_t>(pens.size() - 1),
+                       static_cast<std::uint32_t>(points.size()), static_cast<std::uint32_t>(count),
+                       static_cast<std::uint32_t>(letters.size())});
 }
 
 void DrawingList::line(Point from, Point to) {
-    Figure* const figure = keep(Kind::line, bounds_of(from, to).grown_by(pen.DrawWidth + 1));
-    if (figure != nullptr) figure->points = {from, to};
+    if (!wants(bounds_of(from, to).grown_by(margin(pen)))) return;
+    keep(Kind::line, 2);
+    points.push_back(from);
+    points.push_back(to);
 }
 
-void DrawingList::circle(Point centre, double radius) { keep_round(Kind::circle, centre, radius); }
+void DrawingList::path(const std::vector<Point>& corners) {
+    if (corners.size() < 2 || !wants(around(corners).grown_by(margin(pen)))) return;
+    keep(Kind::line, corners.size());
+    points.insert(points.end(), corners.begin(), corners.end());
+}
+
+void DrawingList::circle(Point centre, double radius) {
+    if (!wants(bounds_of(centre).grown_by(radius + margin(pen)))) return;
+    keep(Kind::circle, 1);
+    points.push_back(centre);
+    points.push_back({radius, 0});
+}
 
 void DrawingList::pie(Point centre, double radius, double start, double end) {
-    Figure* const figure = keep_round(Kind::pie, centre, radius);
-    if (figure == nullptr) return;
-    figure->start = start;
-    figure->end = end;
+    if (!wants(bounds_of(centre).grown_by(radius + margin(pen)))) return;
+    keep(Kind::pie, 1);
+    points.push_back(centre);
+    points.push_back({radius, 0});
+    points.push_back({start, end});
 }
 
-void DrawingList::polygon(const std::vector<Point>& points) {
-    if (points.empty()) return;
-    Figure* const figure = keep(Kind::polygon, around(points).grown_by(pen.DrawWidth + 1));
-    if (figure != nullptr) figure->points = points;
+void DrawingList::polygon(const std::vector<Point>& corners) {
+    if (corners.empty() || !wants(around(corners).grown_by(margin(pen)))) return;
+    keep(Kind::polygon, corners.size());
+    points.insert(points.end(), corners.begin(), corners.end());
 }
 
 void DrawingList::print(Point at, const std::string& text) {
-    Figure* const figure = keep(Kind::print, text_bounds(at, text.size(), pen.FontSize));
-    if (figure == nullptr) return;
-    figure->points = {at};
-    figure->text = text;
+    if (!wants(text_bounds(at, text.size(), pen.FontSize))) return;
+    keep(Kind::print, text.size());
+    points.push_back(at);
+    letters += text;
 }
 
-void DrawingList::replay(Surface& target, const Bounds& wanted) const {
-    for (const Figure& figure : drawn) {
-        if (!figure.bounds.meets(wanted)) continue;
-        target.pen = figure.pen;
-        switch (figure.kind) {
-        case Kind::line:
-            target.line(figure.points[0], figure.points[1]);
-            break;
-        case Kind::circle:
-            target.circle(figure.points[0], figure.radius);
-            break;
-        case Kind::pie:
-            target.pie(figure.points[0], figure.radius, figure.start, figure.end);
-            break;
-        case Kind::polygon:
-            target.polygon(figure.points);
-            break;
-        case Kind::print:
-            target.print(figure.points[0], figure.text);
-            break;
-        }
+void DrawingList::clear() {
+    entries.clear();
+    pens.clear();
+    points.clear();
+    letters.clear();
+}
+
+std::vector<DrawingList::Figure> DrawingList::figures() const {
+    Figures all;
+    replay(all);
+    return all.taken;
+}
+
+bool DrawingList::same_figures(const DrawingList& other) const {
+    return entries == other.entries && points == other.points && pens == other.pens &&
+           letters == other.letters;
+}
+
+Bounds DrawingList::bounds_of_entry(const Entry& entry) const {
+    const Point at = points[entry.first];
+    const Pen& its_pen = pens[entry.pen];
+    switch (entry.kind) {
+    case Kind::circle:
+    case Kind::pie:
+        return bounds_of(at).grown_by(points[entry.first + 1].x + margin(its_pen));
+    case Kind::print:
+        return text_bounds(at, entry.count, its_pen.FontSize);
+    default:
+        return around({&points[entry.first], entry.count}).grown_by(margin(its_pen));
+    }
+}
+
+void DrawingList::draw(const Entry& entry, Surface& target) const {
+    const Point* const at = &points[entry.first];
+    switch (entry.kind) {
+    case Kind::line:
+        for (std::uint32_t i = 1; i < entry.count; ++i) target.line(at[i - 1], at[i]);
+        break;
+    case Kind::circle:
+        target.circle(at[0], at[1].x);
+        break;
+    case Kind::pie:
+        target.pie(at[0], at[1].x, at[2].x, at[2].y);
+        break;
+    case Kind::polygon:
+        target.polygon({at, at + entry.count});
+        break;
+    case Kind::print:
+        target.print(at[0], letters.substr(entry.first_letter, entry.count));
+        break;
+    }
+}
+
+void DrawingList::replay(Surface& target) const {
+    for (const Entry& entry : entries) {
+        if (!target.wants(bounds_of_entry(entry))) continue;
+        target.pen = pens[entry.pen];
+        draw(entry, target);
     }
 }

@@ -3,6 +3,7 @@
 #include "core/surface.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ class DrawingList : public Surface {
   public:
     enum class Kind : std::uint8_t { line, circle, pie, polygon, print };
 
+    /// One figure as it was drawn.
     struct Figure {
         Kind kind;
         Pen pen;
@@ -20,32 +22,44 @@ class DrawingList : public Surface {
         double start = 0;
         double end = 0;
         std::string text;
-        Bounds bounds; // what the figure can touch, width of the pen included
-
-        bool operator==(const Figure& other) const {
-            return kind == other.kind && pen == other.pen && points == other.points &&
-                   radius == other.radius && start == other.start && end == other.end && text == other.text;
-        }
     };
 
     void line(Point from, Point to) override;
+    void path(const std::vector<Point>& corners) override;
     void circle(Point centre, double radius) override;
     void pie(Point centre, double radius, double start, double end) override;
     void polygon(const std::vector<Point>& points) override;
     void print(Point at, const std::string& text) override;
 
     /// Removes the figures; the pen stays.
-    void clear() { drawn.clear(); }
+    void clear();
 
-    const std::vector<Figure>& figures() const { return drawn; }
+    bool empty() const { return entries.empty(); }
+    std::vector<Figure> figures() const;
+    bool same_figures(const DrawingList& other) const;
 
-    /// Draws the figures that can touch the wanted area on another surface.
-    void replay(Surface& target, const Bounds& wanted) const;
+    /// Draws the figures that the other surface wants on it.
+    void replay(Surface& target) const;
 
   private:
-    /// A new figure of these bounds, or nothing when it is not wanted.
-    Figure* keep(Kind kind, const Bounds& bounds);
-    Figure* keep_round(Kind kind, Point centre, double radius);
+    // A large campaign has a hundred thousand figures, and each refresh makes them anew: pens, points and
+    // letters stand in a row each, without an allocation of a figure's own.
+    struct Entry {
+        Kind kind;
+        std::uint32_t pen;
+        std::uint32_t first; // of its points; a circle's radius and a pie's angles stand behind its centre
+        std::uint32_t count; // of the points of a line or polygon, of the letters of a text
+        std::uint32_t first_letter;
 
-    std::vector<Figure> drawn;
+        bool operator==(const Entry&) const = default;
+    };
+
+    void keep(Kind kind, std::size_t count);
+    Bounds bounds_of_entry(const Entry& entry) const;
+    void draw(const Entry& entry, Surface& target) const;
+
+    std::vector<Entry> entries;
+    std::vector<Pen> pens;
+    std::vector<Point> points;
+    std::string letters;
 };

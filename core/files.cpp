@@ -228,8 +228,15 @@ std::vector<std::string> files::list(const std::string& directory, const std::st
 }
 
 std::unique_ptr<OutputFile> files::open_for_output(const std::string& path) {
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    // Without waiting: a pipe in the place of a file, with nobody at its other end, would hold the program
+    // up.
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666);
     if (fd < 0) throw Failure{output_failure_number(errno)};
+    struct stat status {};
+    if (::fstat(fd, &status) == 0 && S_ISFIFO(status.st_mode)) {
+        ::close(fd);
+        throw Failure{failure::path_access};
+    }
     return std::make_unique<DiskOutput>(fd);
 }
 

@@ -143,7 +143,7 @@ struct RecordControls {
     long front = 0;
 };
 
-/// The marker in hand: the one last pressed, and where in it the pointer is.
+/// What is in hand: the marker last pressed, where in it or in a label the pointer is, and what is dragged.
 struct MarkerDrag {
     int drag_index = 0;
     double unit_grab_x = 0;
@@ -151,6 +151,7 @@ struct MarkerDrag {
     double label_grab_x = 0;
     double label_grab_y = 0;
     bool dragging = false;
+    HitTarget dragged;
 };
 
 /// The panels that take turns beside the map.

@@ -74,6 +74,14 @@ struct MapShape : MapControl {
     std::int32_t fill_colour = 0;
 };
 
+/// What the pointer is over. Shapes themselves let the mouse through to the map.
+enum class TargetKind : std::uint8_t { map, unit, label, shape_label };
+
+struct HitTarget {
+    TargetKind kind = TargetKind::map;
+    int index = 0; // of the control
+};
+
 /// Controls by index. Index 0 is the hidden template, so the first one made has index 1.
 template <class Control> class ControlArray {
   public:

@@ -43,25 +43,34 @@ std::size_t number_length(std::string_view text) {
     return at;
 }
 
+/// The whole number behind an exponent's letter. Beyond a thousand millions they are all the same.
+long exponent_of(std::string_view text) {
+    constexpr long far = 1'000'000'000;
+    const bool negative = text.starts_with('-');
+    long value = 0;
+    for (const char c : text)
+        if (is_digit(c)) value = std::min(far, value * 10 + (c - '0'));
+    return negative ? -value : value;
+}
+
 /// Whether a decimal text that no Double can hold is too large, not too small: decided by the place of its
 /// first digit.
 bool is_beyond_one(std::string_view text) {
     const std::size_t exponent_at = std::min(text.find('e'), text.size());
     const std::string_view mantissa = text.substr(0, exponent_at);
-    const bool negative_exponent = text.substr(exponent_at).find('-') != std::string_view::npos;
-    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-    const std::size_t first = mantissa.find_first_of("123456789");
-    // An exponent out of range is far larger than any mantissa is long; without one the mantissa decides.
-    return exponent_at < text.size() ? !negative_exponent : first < point;
+    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<long>(std::min(mantissa.find_first_of("123456789"), mantissa.size()));
+    const long exponent = exponent_at < text.size() ? exponent_of(text.substr(exponent_at + 1)) : 0;
+    return point - first + exponent > 0;
 }
 
-/// Converts a text that `number_length` accepted whole. Fails with 6 beyond a Double.
-double converted(std::string_view text) {
+/// Converts a text that `number_length` accepted whole. Fails with 6 beyond the type's range.
+template <class Real> Real converted(std::string_view text) {
     if (text.front() == '+') text.remove_prefix(1);
     std::string plain(text);
     std::replace_if(
         plain.begin(), plain.end(), [](char c) { return c == 'd' || c == 'D' || c == 'E'; }, 'e');
-    double value = 0;
+    Real value = 0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
         if (is_beyond_one(plain)) throw Failure{failure::overflow};
@@ -136,14 +145,19 @@ bool is_numeric(std::string_view text) {
 
 double to_double(std::string_view text) {
     if (!is_numeric(text)) throw Failure{failure::type_mismatch};
-    return converted(trimmed(text));
+    return converted<double>(trimmed(text));
+}
+
+float to_single(std::string_view text) {
+    if (!is_numeric(text)) throw Failure{failure::type_mismatch};
+    return converted<float>(trimmed(text));
 }
 
 double val(std::string_view text) {
     std::string packed;
     std::copy_if(text.begin(), text.end(), std::back_inserter(packed), [](char c) { return !is_blank(c); });
     const std::size_t length = number_length(packed);
-    return length == 0 ? 0 : converted(std::string_view(packed).substr(0, length));
+    return length == 0 ? 0 : converted<double>(std::string_view(packed).substr(0, length));
 }
 
 std::string number_text(double value) {

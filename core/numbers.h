@@ -34,6 +34,9 @@ bool is_numeric(std::string_view text);
 /// The number that a numeric text stands for. Fails with 13 when it is none, with 6 beyond a Double.
 double to_double(std::string_view text);
 
+/// The Single nearest to it; by way of a Double it could be the next one. Fails alike.
+float to_single(std::string_view text);
+
 /// The number at the front of a text, blanks taken out; 0 when there is none.
 double val(std::string_view text);
 

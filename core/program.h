@@ -34,6 +34,7 @@ struct Painting {
     DrawingList overview;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
+    long number = 0;         // counts the paints
 
     Pens pens() const { return {map.pen, hcoord.pen, vcoord.pen, overview.pen}; }
     void set_pens(const Pens& pens) {

@@ -81,7 +81,13 @@ std::int16_t FieldReader::int16() { return to_int16(number()); }
 
 std::int32_t FieldReader::long_integer() { return to_long(number()); }
 
-float FieldReader::single() { return to_single(number()); }
+float FieldReader::single() {
+    const std::string_view value = field();
+    std::int32_t whole = 0;
+    if (value.empty()) return 0;
+    if (short_whole_number(value, whole)) return static_cast<float>(whole);
+    return to_single(value);
+}
 
 double FieldReader::double_number() { return number(); }
 

@@ -83,6 +83,10 @@ class Surface {
     bool wants(const Bounds& figure) const { return wanted.meets(figure); }
 
     virtual void line(Point from, Point to) = 0;
+    /// A segment between each two neighbours.
+    virtual void path(const std::vector<Point>& points) {
+        for (std::size_t i = 1; i < points.size(); ++i) line(points[i - 1], points[i]);
+    }
     virtual void circle(Point centre, double radius) = 0;
     /// The slice from start to end counter-clockwise, closed to the centre.
     virtual void pie(Point centre, double radius, double start, double end) = 0;

@@ -3,6 +3,9 @@
 #include "core/surface.h"
 #include "core/unit_records.h"
 
+#include <limits>
+#include <vector>
+
 /// Where a unit, a vertex or a waypoint is, in map pixels.
 inline Point place_of(const oUnits& unit) {
     return {static_cast<double>(unit.xcoord), static_cast<double>(unit.ycoord)};
@@ -21,25 +24,29 @@ inline Point place_in_area(const oUnits& unit, const oCoordinates& vertex) {
     return {place_of(unit).x + vertex.x_cor, place_of(unit).y + vertex.y_cor};
 }
 
+/// The box around a list of vertices and what the pen's width can touch beside it.
+template <class Vertices, class Place>
+Bounds bounds_of_vertices(const Surface& surface, const Vertices& vertices, Place place) {
+    constexpr double none = std::numeric_limits<double>::infinity();
+    Bounds around{none, none, -none, -none};
+    for (const auto& vertex : vertices) around = around.with(bounds_of(place(*vertex)));
+    return around.grown_by(surface.pen.DrawWidth + 1);
+}
+
 /// Draws a segment between each two neighbours of a list of vertices.
 template <class Vertices, class Place>
 void draw_path(Surface& surface, const Vertices& vertices, Place place) {
-    Point last;
-    bool first = true;
-    for (const auto& vertex : vertices) {
-        const Point here = place(*vertex);
-        if (!first) surface.line(last, here);
-        first = false;
-        last = here;
-    }
+    if (!surface.wants(bounds_of_vertices(surface, vertices, place))) return;
+    std::vector<Point> points;
+    points.reserve(vertices.count());
+    for (const auto& vertex : vertices) points.push_back(place(*vertex));
+    surface.path(points);
 }
 
-/// Draws a polygon with these corners; there must be one at least.
+/// Draws a polygon with these corners.
 template <class Vertices, class Place>
 void draw_closed(Surface& surface, const Vertices& vertices, Place place) {
-    Bounds around = bounds_of(place(*vertices->at(1)));
-    for (const auto& vertex : vertices) around = around.with(bounds_of(place(*vertex)));
-    if (!surface.wants(around.grown_by(surface.pen.DrawWidth + 1))) return;
+    if (!surface.wants(bounds_of_vertices(surface, vertices, place))) return;
     std::vector<Point> corners;
     for (const auto& vertex : vertices) corners.push_back(place(*vertex));
     surface.polygon(corners);

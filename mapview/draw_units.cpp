@@ -2,16 +2,22 @@
 
 #include "core/unit_place.h"
 
+#include <unordered_set>
+
 namespace {
 
-void draw_subordinate_links(const Program& program, Surface& map, const oUnits& unit, std::size_t depth) {
-    if (depth > program.campaign.colUnits.count()) throw Failure{failure::out_of_stack};
+/// Units from the selected one down to the one whose links are drawn.
+using Path = std::unordered_set<const oUnits*>;
+
+void draw_subordinate_links(const Program& program, Surface& map, const oUnits& unit, Path& path) {
     if (unit.children.empty()) return;
+    if (!path.insert(&unit).second) throw Failure{failure::out_of_stack}; // it is under itself
     for (const auto& child : unit.children) {
         const oUnits& subordinate = *program.campaign.colUnits->item(child->ID);
         map.line(place_of(unit), place_of(subordinate));
-        draw_subordinate_links(program, map, subordinate, depth + 1);
+        draw_subordinate_links(program, map, subordinate, path);
     }
+    path.erase(&unit);
 }
 
 /// Runs `print(marker, unit)` in the look of names for each visible marker.
@@ -45,7 +51,8 @@ void draw_hierarchy(Program& program, Painting& painting) {
         map.line(place_of(unit), place_of(*program.campaign.colUnits->item(unit.parent_ID)));
     }
     map.pen.ForeColor = 0x8000;
-    draw_subordinate_links(program, map, unit, 0);
+    Path path;
+    draw_subordinate_links(program, map, unit, path);
     map.pen.DrawWidth = 1;
     map.pen.ForeColor = 0;
 }

@@ -4,7 +4,6 @@
 
 void make_label_control(Program& program, const oLabels& label) {
     const int index = program.campaign.gNextLabelIndex;
-    const std::int16_t next = to_int16(index + 1);
     MapLabel& control = program.main.lblUser.load(index);
     control.tag = label.ID;
     control.caption = label.text;
@@ -23,7 +22,7 @@ void make_label_control(Program& program, const oLabels& label) {
     control.top = label.ycoord;
     program.main.bring_to_front(control);
     control.visible = true;
-    program.campaign.gNextLabelIndex = next;
+    program.campaign.gNextLabelIndex = to_int16(index + 1);
 }
 
 void bring_labels_to_front(Program& program) {

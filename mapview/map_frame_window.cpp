@@ -29,8 +29,8 @@ void RulerView::paintEvent(QPaintEvent* event) {
     painter.translate(strip.left, strip.top);
     PainterSurface surface(painter);
     const QRectF wanted = QRectF(rect()).translated(-strip.left, -strip.top);
-    (program.painting.*numbers)
-        .replay(surface, {wanted.left(), wanted.top(), wanted.right(), wanted.bottom()});
+    surface.wanted = {wanted.left(), wanted.top(), wanted.right(), wanted.bottom()};
+    (program.painting.*numbers).replay(surface);
 }
 
 OverviewView::OverviewView(Program& program, EventRunner& events, QWidget* parent)
@@ -41,6 +41,7 @@ OverviewView::OverviewView(Program& program, EventRunner& events, QWidget* paren
 }
 
 void OverviewView::mousePressEvent(QMouseEvent* event) {
+    if (!is_known(event->button())) return;
     events.run([&] { picOverviewmap_MouseDown(program, mouse_press(*event, event->button())); });
 }
 
@@ -53,24 +54,45 @@ void OverviewView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void OverviewView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!is_known(event->button())) return;
     events.run([&] { picOverviewmap_MouseUp(program, mouse_press(*event, event->button())); });
 }
 
 void OverviewView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const frmMain& main = program.main;
-    if (const auto* const picture = dynamic_cast<const MapImage*>(main.picMap.picture.get()))
+    painter.drawImage(0, 0, content(painter.device()->devicePixelRatioF()));
+    const ShapeControl& box = program.main.shpOverviewbox;
+    painter.setPen(Qt::red);
+    if (box.visible) painter.drawRect(QRectF(box.left, box.top, box.width - 1, box.height - 1));
+}
+
+const QImage& OverviewView::content(double scale) {
+    const DrawingList& figures = program.painting.overview;
+    std::vector<Dot> dots = visible_dots(program.main.shpUnit);
+    if (painted.devicePixelRatio() == scale && painted_figures.same_figures(figures) && painted_dots == dots)
+        return painted;
+    painted_figures = figures;
+    painted_dots = std::move(dots);
+    painted = QImage((QSizeF(size()) * scale).toSize(), QImage::Format_RGB32);
+    painted.setDevicePixelRatio(scale);
+    paint_content();
+    return painted;
+}
+
+void OverviewView::paint_content() {
+    QPainter painter(&painted);
+    if (const auto* const picture = dynamic_cast<const MapImage*>(program.main.picMap.picture.get()))
         painter.drawImage(0, 0, picture->overview);
     PainterSurface surface(painter);
-    program.painting.overview.replay(surface, {0, 0, main.picOverviewmap.width, main.picOverviewmap.height});
+    program.painting.overview.replay(surface);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    for (int i = 1; i <= main.shpUnit.upper(); ++i) {
-        const OverviewDot& dot = main.shpUnit(i);
-        if (dot.visible)
-            painter.fillRect(QRectF(dot.left, dot.top, dot.width, dot.height), to_qt_colour(dot.colour));
-    }
-    const ShapeControl& box = main.shpOverviewbox;
-    painter.setPen(Qt::red);
-    painter.setBrush(Qt::NoBrush);
-    if (box.visible) painter.drawRect(QRectF(box.left, box.top, box.width - 1, box.height - 1));
+    for (const Dot& dot : painted_dots) painter.fillRect(dot.box, to_qt_colour(dot.colour));
+}
+
+std::vector<OverviewView::Dot> OverviewView::visible_dots(const ControlArray<OverviewDot>& all) {
+    std::vector<Dot> dots;
+    for (int i = 1; i <= all.upper(); ++i)
+        if (const OverviewDot& dot = all(i); dot.visible)
+            dots.push_back({QRectF(dot.left, dot.top, dot.width, dot.height), dot.colour});
+    return dots;
 }

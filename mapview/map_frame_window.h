@@ -3,7 +3,11 @@
 #include "core/program.h"
 #include "widgets/event_runner.h"
 
+#include <QImage>
+#include <QRectF>
 #include <QWidget>
+
+#include <vector>
 
 /// A ruler beside the map: a light strip whose numbers move with the map.
 class RulerView : public QWidget {
@@ -33,6 +37,20 @@ class OverviewView : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    struct Dot {
+        QRectF box;
+        std::int32_t colour;
+        bool operator==(const Dot&) const = default;
+    };
+    static std::vector<Dot> visible_dots(const ControlArray<OverviewDot>& all);
+    /// All but the box, painted only when something of it has changed: a large campaign has thousands of
+    /// fans.
+    const QImage& content(double scale);
+    void paint_content();
+
     Program& program;
     EventRunner& events;
+    QImage painted;
+    DrawingList painted_figures;
+    std::vector<Dot> painted_dots;
 };

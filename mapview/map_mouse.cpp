@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "mapview/grid_reference.h"
+#include "mapview/move_label.h"
 #include "mapview/move_unit.h"
 #include "mapview/rubberband.h"
 #include "mapview/scrolling.h"
@@ -33,17 +34,44 @@ void grab_marker(Program& program, int index, const MapPress& press) {
     program.main.unit_grab_y = press.y - marker.top;
 }
 
+void grab_label(Program& program, const MapLabel& label, const MapPress& press) {
+    program.main.label_grab_x = press.x - label.left;
+    program.main.label_grab_y = press.y - label.top;
+}
+
+void grab(Program& program, const HitTarget& target, const MapPress& press) {
+    if (target.kind == TargetKind::unit) grab_marker(program, target.index, press);
+    if (target.kind == TargetKind::label) grab_label(program, program.main.lblUser(target.index), press);
+    if (target.kind == TargetKind::shape_label)
+        grab_label(program, program.main.lblShapeLabel(target.index), press);
+}
+
+/// A plain press never drags.
+void start_drag(Program& program, const HitTarget& target, const MapPress& press) {
+    if (press.button != left_button || press.shift != shift_key) return;
+    program.main.dragging = true;
+    program.main.dragged = target;
+}
+
 void take_in_hand(Program& program, int index, const MapPress& press) {
     frmMain& main = program.main;
     if (!(main.place_unit && main.moving_line_point && main.drawing_lines)) main.drag_index = index;
-    if (press.button == left_button && press.shift == shift_key) main.dragging = true;
+    start_drag(program, {TargetKind::unit, main.drag_index}, press);
+}
+
+/// A marker that Ctrl has shown again though its unit is gone.
+bool is_tomb(const Program& program, int index) {
+    return !program.campaign.colUnits->contains(program.main.imgUnit(index).tag);
 }
 
 void imgUnit_MouseDown(Program& program, int index, const MapPress& press) {
-    grab_marker(program, index, press);
     if (offer(program, press, press_on::marker_first) == Outcome::done) return;
     if (press.button == left_button && press.shift == ctrl_key) {
         toggle_selection(program, index);
+        return;
+    }
+    if (is_tomb(program, index)) {
+        show_unit_info(program, program.main.imgUnit(index).tag); // which tells that there is none
         return;
     }
     const auto& selected = program.campaign.colSelectedUnits;
@@ -79,12 +107,12 @@ void picMap_MouseMove(Program& program, const MapPress& press) {
     follow_pointer(program, press);
     // The conversion adds 48 to `current_y` itself: who reads that field allows for it.
     show_coordinates(program, main.current_x, main.current_y);
-    if (press.button == left_button && band_may_grow(program))
+    if (press.button == left_button && band_may_grow(program, main.shpRubberband))
         stretch_band(program, main.shpRubberband, press.x, press.y);
 }
 
 void control_MouseMove(Program& program, const HitTarget& target, const MapPress& press) {
-    if (target.kind == TargetKind::unit) grab_marker(program, target.index, press);
+    grab(program, target, press);
     follow_pointer(program, press);
     std::int16_t x = to_int16(press.x);
     std::int16_t y = to_int16(press.y);
@@ -98,11 +126,50 @@ Point map_place(const Program& program, double x, double y) {
             main.picMap.height / main.picOverviewmap.scale_height() * y};
 }
 
+/// The label or caption that is dragged, or nothing.
+const MapLabel* dragged_label(const frmMain& main) {
+    if (main.dragged.kind == TargetKind::label) return &main.lblUser(main.dragged.index);
+    if (main.dragged.kind == TargetKind::shape_label) return &main.lblShapeLabel(main.dragged.index);
+    return nullptr;
+}
+
+/// Where the centre of what is dragged would land.
+Point dragged_centre(const Program& program, double x, double y) {
+    const frmMain& main = program.main;
+    const MapLabel* const label = dragged_label(main);
+    if (label == nullptr) {
+        const UnitMarker& marker = main.imgUnit(main.drag_index);
+        return {x - main.unit_grab_x + marker.width / 2, y - main.unit_grab_y + marker.height / 2};
+    }
+    return {x - main.label_grab_x + label->width / 2, y - main.label_grab_y + label->height / 2};
+}
+
+/// Labels stay on the map: overview and tray take markers only.
+void drop_label(Program& program, DropSite site, double x, double y) {
+    if (site != DropSite::map) return;
+    if (program.main.dragged.kind == TargetKind::label)
+        move_label(program, program.main.dragged.index, x, y);
+    else
+        move_shape_by_caption(program, program.main.dragged.index, x, y);
+}
+
+void drop_unit(Program& program, DropSite site, double x, double y) {
+    if (site == DropSite::overview) {
+        const Point place = map_place(program, x, y);
+        drop_markers(program, Container::map, round_half_even(place.x), round_half_even(place.y));
+    } else if (site == DropSite::tray) {
+        drop_markers(program, Container::tray, x, y);
+    } else {
+        drop_markers(program, Container::map, whole_part(x), whole_part(y));
+    }
+}
+
 } // namespace
 
 void mouse_down(Program& program, const HitTarget& target, MapPress press) {
     trap(program, " when pressing a mouse button on the map.", [&] {
         press.on_bare_map = target.kind == TargetKind::map;
+        grab(program, target, press);
         if (target.kind == TargetKind::unit) {
             imgUnit_MouseDown(program, target.index, press);
             return;
@@ -112,7 +179,8 @@ void mouse_down(Program& program, const HitTarget& target, MapPress press) {
             program.main.popup_x = to_int16(press.x);
             program.main.popup_y = to_int16(press.y);
         }
-        offer(program, press, press_on::map);
+        const Outcome outcome = offer(program, press, press_on::map);
+        if (!press.on_bare_map && outcome == Outcome::goes_on) start_drag(program, target, press);
     });
 }
 
@@ -123,6 +191,13 @@ void mouse_move(Program& program, const HitTarget& target, const MapPress& press
         else
             control_MouseMove(program, target, press);
     });
+}
+
+void control_MouseUp(Program& program, const HitTarget& target) {
+    if (target.kind == TargetKind::unit) return;
+    // A label takes a press as the map does, but no release: what only that would end must not stay.
+    program.main.shpRubberband.visible = false;
+    program.main.map_popup_shown = false;
 }
 
 void picMap_MouseUp(Program& program, const MapPress& press) {
@@ -153,9 +228,8 @@ void drag_over(Program& program, DropSite site, double x, double y) {
         if (site == DropSite::overview) {
             centre = map_place(program, x, y);
         } else {
-            const UnitMarker& marker = main.imgUnit(main.drag_index);
             edge_scroll(program, x, y);
-            centre = {x - main.unit_grab_x + marker.width / 2, y - main.unit_grab_y + marker.height / 2};
+            centre = dragged_centre(program, x, y);
         }
         std::int16_t east = to_int16(centre.x);
         std::int16_t north = to_int16(centre.y);
@@ -169,14 +243,10 @@ void drag_drop(Program& program, DropSite site, double x, double y) {
     program.main.dragging = false;
     trap(program, " when moving a unit.", [&] {
         if (site == DropSite::nowhere) return;
-        if (site == DropSite::overview) {
-            const Point place = map_place(program, x, y);
-            drop_markers(program, Container::map, round_half_even(place.x), round_half_even(place.y));
-        } else if (site == DropSite::tray) {
-            drop_markers(program, Container::tray, x, y);
-        } else {
-            drop_markers(program, Container::map, whole_part(x), whole_part(y));
-        }
+        if (dragged_label(program.main) == nullptr)
+            drop_unit(program, site, x, y);
+        else
+            drop_label(program, site, x, y);
         program.main.picMap.Refresh();
     });
 }

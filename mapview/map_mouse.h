@@ -10,13 +10,15 @@
 void mouse_down(Program& program, const HitTarget& target, MapPress press);
 /// The pointer moves; while a button is down, over what was pressed.
 void mouse_move(Program& program, const HitTarget& target, const MapPress& press);
-/// A release over the map after a press there. After a press on a marker or a label it has no effect.
+/// A release over the map after a press there.
 void picMap_MouseUp(Program& program, const MapPress& press);
+/// A release after a press on a marker or a label: it acts on nothing.
+void control_MouseUp(Program& program, const HitTarget& target);
 
 /// Where a dragged control can be dropped.
 enum class DropSite : std::uint8_t { nowhere, map, tray, overview };
 
-/// The dragged marker is over a place: tells where its centre would land.
+/// What is dragged is over a place: tells where its centre would land.
 void drag_over(Program& program, DropSite site, double x, double y);
 /// The end of a drag.
 void drag_drop(Program& program, DropSite site, double x, double y);

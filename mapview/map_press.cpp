@@ -32,6 +32,8 @@ bool element_is_transferred(const Program& program) { return program.main.transf
 Outcome press_aborts_transfer(Program& program, const MapPress& /*press*/) {
     const Answer answer =
         program.platform.message({"Abort transfering force element?", Icon::question, Buttons::yes_no});
-    if (answer == Answer::yes) program.main.transferring_fe = false;
+    if (answer != Answer::yes) return Outcome::done;
+    program.main.transferring_fe = false;
+    program.main.cmdTransferFE.enabled = false;
     return Outcome::done;
 }

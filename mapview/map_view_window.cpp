@@ -4,10 +4,7 @@
 #include "mapview/map_controls_window.h"
 #include "mapview/map_mouse.h"
 #include "mapview/mouse_press_window.h"
-#include "mapview/painting.h"
 #include "mapview/scrolling.h"
-#include "widgets/map_image.h"
-#include "widgets/painter_surface.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -37,25 +34,18 @@ QPointF MapView::origin() const {
     return {main.picMapwindow.border + main.picMap.left, main.picMapwindow.border + main.picMap.top};
 }
 
-void MapView::paint_view(QPainter& painter, const QRect& exposed) const {
-    const frmMain& main = program.main;
-    const auto* const picture = dynamic_cast<const MapImage*>(main.picMap.picture.get());
-    if (picture == nullptr) return;
+void MapView::paint_view(QPainter& painter, const QRect& exposed) {
     const QPoint offset = origin().toPoint();
-    const QRect wanted = exposed.translated(-offset);
-    const QRect on_map(offset, picture->map.size());
+    const QRect map(offset, QSize(static_cast<int>(program.main.picMap.width),
+                                  static_cast<int>(program.main.picMap.height)));
+    const QRect on_map = map & inside();
     if (!on_map.contains(exposed)) painter.fillRect(exposed, palette().window());
-    painter.drawImage(exposed.topLeft(), picture->map, wanted);
-    painter.save();
+    if (on_map.isEmpty()) return;
+    painter.drawImage(on_map.topLeft(), layers.image(program, on_map.translated(-offset),
+                                                     painter.device()->devicePixelRatioF()));
     painter.setClipRect(exposed & on_map);
     painter.translate(offset);
-    PainterSurface surface(painter);
-    cover_view(program);
-    program.painting.map.replay(surface,
-                                {static_cast<double>(wanted.left()), static_cast<double>(wanted.top()),
-                                 static_cast<double>(wanted.right()), static_cast<double>(wanted.bottom())});
-    paint_map_controls(painter, main, sprites, wanted);
-    painter.restore();
+    paint_map_controls(painter, program.main, sprites, exposed.translated(-offset));
 }
 
 void MapView::update_find_marker() {
@@ -65,23 +55,27 @@ void MapView::update_find_marker() {
     update(QRectF(centre.x() - reach, centre.y() - reach, 2 * reach, 2 * reach).toAlignedRect());
 }
 
+QRect MapView::inside() const {
+    const int border = static_cast<int>(program.main.picMapwindow.border);
+    return rect().adjusted(border, border, -border, -border);
+}
+
 void MapView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const int border = static_cast<int>(program.main.picMapwindow.border);
-    const QRect inside = rect().adjusted(border, border, -border, -border);
-    paint_view(painter, event->rect() & inside);
     painter.setPen(palette().color(QPalette::Mid));
-    for (int i = 0; i < border; ++i) painter.drawRect(rect().adjusted(i, i, -i - 1, -i - 1));
+    for (QRect frame = rect(); frame != inside(); frame.adjust(1, 1, -1, -1))
+        painter.drawRect(frame.adjusted(0, 0, -1, -1));
+    painter.setClipRect(event->rect() & inside());
+    paint_view(painter, event->rect() & inside());
 }
 
 bool MapView::is_over_map(QPointF point) const {
-    const double border = program.main.picMapwindow.border;
-    const QRectF inside = QRectF(rect()).adjusted(border, border, -border, -border);
     const QRectF map(origin(), QSizeF(program.main.picMap.width, program.main.picMap.height));
-    return (inside & map).contains(point);
+    return (QRectF(inside()) & map).contains(point);
 }
 
 void MapView::mousePressEvent(QMouseEvent* event) {
+    if (!is_known(event->button())) return;
     const bool first_button = event->buttons() == event->button();
     if (first_button) captured = is_over_map(event->position());
     if (!captured) return;
@@ -93,10 +87,15 @@ void MapView::mousePressEvent(QMouseEvent* event) {
 
 void MapView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
+void MapView::end_capture() {
+    captured = false;
+    program.main.dragging = false;
+}
+
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     const MapPress press = mouse_press(*event, event->buttons(), origin());
     if (press.button != 0 ? !captured : !is_over_map(event->position())) return;
-    if (program.main.dragging) {
+    if (drag_goes_on(*event)) {
         drag_to(event->globalPosition(), false);
         return;
     }
@@ -108,13 +107,24 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
-    const MapPress press = mouse_press(*event, event->button(), origin());
-    // A release over a marker or a label that was pressed has no effect of its own.
+    if (!captured || !is_known(event->button())) return;
     if (program.main.dragging) {
-        drag_to(event->globalPosition(), true);
+        if (event->button() == Qt::LeftButton) drag_to(event->globalPosition(), true);
         return;
     }
-    if (captured && pressed.kind == TargetKind::map) events.run([&] { picMap_MouseUp(program, press); });
+    const MapPress press = mouse_press(*event, event->button(), origin());
+    events.run([&] {
+        if (pressed.kind == TargetKind::map)
+            picMap_MouseUp(program, press);
+        else
+            control_MouseUp(program, pressed);
+    });
+}
+
+bool MapView::drag_goes_on(const QMouseEvent& event) {
+    // A drag whose release was lost, to another window say, is over.
+    if (!(event.buttons() & Qt::LeftButton)) program.main.dragging = false;
+    return program.main.dragging;
 }
 
 void MapView::drag_to(QPointF global, bool drop) {
@@ -132,10 +142,12 @@ void MapView::drag_to(QPointF global, bool drop) {
 }
 
 MapView::DropPlace MapView::drop_place(QPointF global) const {
+    // Another panel may lie over the tray.
+    const QWidget* const on_top = window()->childAt(window()->mapFromGlobal(global.toPoint()));
     for (const auto& [site, widget] : drop_sites) {
-        const QPointF point = widget->mapFromGlobal(global);
-        if (widget->isVisible() && QRectF(widget->rect()).contains(point)) return {site, point};
+        if (on_top == widget || widget->isAncestorOf(on_top)) return {site, widget->mapFromGlobal(global)};
     }
+    if (on_top != this) return {DropSite::nowhere, {}};
     const QPointF point = mapFromGlobal(global);
     return {is_over_map(point) ? DropSite::map : DropSite::nowhere, point - origin()};
 }

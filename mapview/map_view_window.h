@@ -2,6 +2,7 @@
 
 #include "core/program.h"
 #include "mapview/hit_target.h"
+#include "mapview/map_layers_window.h"
 #include "mapview/map_mouse.h"
 #include "widgets/event_runner.h"
 #include "widgets/sprites.h"
@@ -16,13 +17,15 @@ class MapView : public QWidget {
   public:
     MapView(Program& program, const Sprites& sprites, EventRunner& events, QWidget* parent);
 
-    /// The view as a picture would show it, for whoever has a painter of its own.
-    void paint_view(QPainter& painter, const QRect& exposed) const;
     /// Where else a marker can be dropped; the first that is under the pointer takes it.
     std::vector<std::pair<DropSite, QWidget*>> drop_sites;
 
     /// Goes on with a drag that began here or in the tray, at a place of the screen; ends it with a drop.
     void drag_to(QPointF global, bool drop);
+    /// Whether a drag is on and its button still down.
+    bool drag_goes_on(const QMouseEvent& event);
+    /// Ends a press and a drag whose release goes elsewhere: a dialog or a menu has opened meanwhile.
+    void end_capture();
     /// Repaints only where the find marker stands.
     void update_find_marker();
 
@@ -36,10 +39,13 @@ class MapView : public QWidget {
 
   private:
     QPointF origin() const; // of the map, in pixels of this window
+    QRect inside() const;   // the border
+    void paint_view(QPainter& painter, const QRect& exposed);
 
     Program& program;
     const Sprites& sprites;
     EventRunner& events;
+    MapLayers layers;
     bool is_over_map(QPointF point) const; // not over the border or the ground beside a small map
 
     struct DropPlace {

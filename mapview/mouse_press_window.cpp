@@ -1,5 +1,9 @@
 #include "mapview/mouse_press_window.h"
 
+bool is_known(Qt::MouseButton button) {
+    return button == Qt::LeftButton || button == Qt::RightButton || button == Qt::MiddleButton;
+}
+
 MapPress mouse_press(const QMouseEvent& event, Qt::MouseButtons buttons, QPointF origin) {
     MapPress press;
     if (buttons & Qt::LeftButton) press.button |= left_button;

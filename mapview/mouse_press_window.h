@@ -5,6 +5,9 @@
 #include <QMouseEvent>
 #include <QPointF>
 
+/// Whether the button is one of the three that the rules know.
+bool is_known(Qt::MouseButton button);
+
 /// The mouse event as the rules see it, counted from the origin. The buttons are the one that changed, or
 /// those that are down.
 MapPress mouse_press(const QMouseEvent& event, Qt::MouseButtons buttons, QPointF origin = {});

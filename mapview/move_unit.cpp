@@ -27,8 +27,8 @@ void place_dot(const frmMain& main, OverviewDot& dot, const UnitMarker& marker) 
 void leave_area(oUnits& unit, int dx, int dy) {
     if (unit.area_of_opeartion.empty()) return;
     for (const auto& vertex : unit.area_of_opeartion) {
-        vertex->x_cor -= dx;
-        vertex->y_cor -= dy;
+        vertex->x_cor = to_long(static_cast<double>(vertex->x_cor) - dx);
+        vertex->y_cor = to_long(static_cast<double>(vertex->y_cor) - dy);
     }
 }
 
@@ -58,7 +58,7 @@ template <class Centre> void move(Program& program, int index, Place wanted, Cen
     if (main.mnuLeaveAOO.checked) leave_area(unit, dx, dy);
     marker.visible = true;
     dot.visible = true;
-    move_state_bar(program, index);
+    move_state_bar(program, unit);
 }
 
 using Centre = std::pair<std::int16_t, std::int16_t>;

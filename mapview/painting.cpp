@@ -17,6 +17,7 @@ Bounds view_of(const frmMain& main) {
 /// was not reached would have cleared stays.
 int paint_layers(Program& program, const Pens& pens) {
     Painting& painting = program.painting;
+    ++painting.number;
     painting.map.clear();
     painting.map.wanted = view_of(program.main).grown_by(margin);
     painting.set_pens(pens);

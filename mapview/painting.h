@@ -2,9 +2,9 @@
 
 #include "core/program.h"
 
-/// Paints every layer whose gate is open, from bottom to top, with the pens as the last paint left them, as far
-/// as it is in view or near it. A failure ends the paint and is told once, after it; the layers behind it are
-/// missing.
+/// Paints every layer whose gate is open, from bottom to top, with the pens as the last paint left them, as
+/// far as it is in view or near it. A failure ends the paint and is told once, after it; the layers behind it
+/// are missing.
 void picMap_Paint(Program& program);
 
 /// Paints when a refresh is wanted, and answers whether it was; all refreshes of one event are one paint.

@@ -26,13 +26,12 @@ void stretch_band(const Program& program, ShapeControl& band, double x, double y
     band.height = std::abs(y - from_y);
 }
 
-bool band_may_grow(const Program& program) {
+bool band_may_grow(const Program& program, const ShapeControl& band) {
     const frmMain& main = program.main;
     const auto label = program.forms.find("frmLabel");
     const bool writing_label = label != program.forms.end() && label->second->visible;
-    return main.shpRubberband.visible && !main.drawing_lines && !main.checking_path_range &&
-           !main.checking_range && !main.moving_line_point && !main.deleting_line_point &&
-           !main.deleting_line && !writing_label;
+    return band.visible && !main.drawing_lines && !main.checking_path_range && !main.checking_range &&
+           !main.moving_line_point && !main.deleting_line_point && !main.deleting_line && !writing_label;
 }
 
 Outcome press_starts_band(Program& program, const MapPress& press) {

@@ -8,8 +8,8 @@ void start_band(Program& program, ShapeControl& band, double x, double y);
 /// Lets the band reach from where it started to the pointer.
 void stretch_band(const Program& program, ShapeControl& band, double x, double y);
 
-/// Whether no tool keeps the map's band from growing.
-bool band_may_grow(const Program& program);
+/// Whether the band stands and no tool keeps it from growing.
+bool band_may_grow(const Program& program, const ShapeControl& band);
 
 /// Row: a left press starts the map's band.
 Outcome press_starts_band(Program& program, const MapPress& press);

@@ -73,6 +73,7 @@ void toggle_selection(Program& program, int index) {
 
 int select_in_band(Program& program, const ShapeControl& band) {
     Campaign& campaign = program.campaign;
+    for (const auto& unit : campaign.colSelectedUnits) set_border(program, *unit, 0);
     campaign.colSelectedUnits.drop();
     int last = 0;
     for (int i = 1; i < campaign.gNextUnitIndex; ++i) {

@@ -27,7 +27,6 @@ void make_caption(Program& program, const oShapes& shape, MapLabel& caption) {
 
 void make_shape_controls(Program& program, const oShapes& shape) {
     const int index = program.campaign.gNextShapeIndex;
-    const std::int16_t next = to_int16(index + 1);
     MapShape& outline = program.main.shpShape.load(index);
     outline.tag = shape.ID;
     outline.draw_mode = shape.drawmode;
@@ -42,5 +41,5 @@ void make_shape_controls(Program& program, const oShapes& shape) {
     program.main.bring_to_front(outline);
     outline.visible = true;
     make_caption(program, shape, program.main.lblShapeLabel.load(index));
-    program.campaign.gNextShapeIndex = next;
+    program.campaign.gNextShapeIndex = to_int16(index + 1);
 }

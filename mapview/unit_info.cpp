@@ -9,6 +9,7 @@
 #include "mapview/selection.h"
 
 #include <array>
+#include <cstring>
 
 namespace {
 
@@ -38,10 +39,16 @@ std::string casualties(const oUnitForceElements& element) {
     return "";
 }
 
+/// Noughts in front by value, so that one below zero gets two of them, too.
+std::string three_digits(std::int16_t quantity) {
+    const char* const noughts = quantity < 10 ? "00" : quantity < 100 ? "0" : "";
+    return noughts + std::to_string(quantity);
+}
+
 std::string element_row(const Program& program, const oUnitForceElements& element) {
     const std::string what =
         element.Index == free_text_index ? element.free_text : catalogue_entry(program, element).description;
-    return what + " x " + format_fixed(element.quantity, 3, 0) + ", " + element.experience +
+    return what + " x " + three_digits(element.quantity) + ", " + element.experience +
            " ,ammo = " + std::to_string(element.ammo) + casualties(element);
 }
 
@@ -114,7 +121,6 @@ void clear_panel(Program& program) {
     panel.cmdTransferFE.enabled = false;
     panel.cmdEditFE.enabled = false;
     panel.cmdDeleteFE.enabled = false;
-    panel.lblUIFFangle.caption.clear();
     program.campaign.curUFE = nullptr;
 }
 
@@ -142,10 +148,17 @@ void show_own_elements(Program& program, const oUnits& unit) {
         panel.lstUIfe.rows.push_back(element_row(program, *element) + std::string(222, ' ') + element->ID);
 }
 
-void show_subordinates(Program& program, const oUnits& unit) {
-    UnitInfoPanel& panel = program.main;
-    Collection<oChildren> list;
+using Subordinates = Collection<oChildren>;
+
+void show_subordinates(Program& program, const oUnits& unit, Subordinates& list) {
     collect_subordinates(program, unit.ID, list);
+    for (const auto& entry : list)
+        program.main.lstUIchildunits.rows.push_back(
+            subordinate_row(*program.campaign.colUnits->item(entry->ID), std::stoi(entry->name)));
+}
+
+void show_accumulated(Program& program, const oUnits& unit, const Subordinates& list) {
+    UnitInfoPanel& panel = program.main;
     Losses losses;
     losses.add(unit);
     std::int64_t supply_req = unit.supply_req;
@@ -153,7 +166,6 @@ void show_subordinates(Program& program, const oUnits& unit) {
     Accumulated accumulated;
     for (const auto& entry : list) {
         const oUnits& subordinate = *program.campaign.colUnits->item(entry->ID);
-        panel.lstUIchildunits.rows.push_back(subordinate_row(subordinate, std::stoi(entry->name)));
         supply_req += subordinate.supply_req;
         current_supply += subordinate.current_supply;
         losses.add(subordinate);
@@ -175,11 +187,20 @@ void show_place(Program& program, const oUnits& unit) {
     pixel_to_grid(program, x, y, program.main.lblUIeastcoord.caption, program.main.lblUInorthcoord.caption);
 }
 
-/// The key at the end of the selected row, or nothing.
-std::string selected_key(const ListBox& list) {
-    if (list.selected < 0) return "";
-    const std::string& row = list.rows.at(static_cast<std::size_t>(list.selected));
+/// The selected row, empty when none is.
+std::string selected_row(const ListBox& list) {
+    return list.selected < 0 ? "" : list.rows.at(static_cast<std::size_t>(list.selected));
+}
+
+/// The key at the end of an element's row.
+std::string element_key(const std::string& row) {
     return row.size() < key_length ? "" : row.substr(row.size() - key_length);
+}
+
+/// The key behind the first mark in a subordinate's row: a mark in the name hides the key.
+std::string subordinate_key(const std::string& row) {
+    const std::size_t mark = row.find(key_mark);
+    return mark == std::string::npos ? "" : row.substr(mark + std::strlen(key_mark));
 }
 
 } // namespace
@@ -194,8 +215,10 @@ void show_unit_info(Program& program, const std::string& id) {
         clear_panel(program);
         const auto unit = program.campaign.colUnits->item(id);
         show_identity(program, *unit);
+        Subordinates subordinates;
+        show_subordinates(program, *unit, subordinates);
         show_own_elements(program, *unit);
-        show_subordinates(program, *unit);
+        show_accumulated(program, *unit, subordinates);
         main.picUnitState.back_colour = state_colour(unit->state);
         show_place(program, *unit);
         program.campaign.curUnit = unit;
@@ -221,25 +244,27 @@ void lstUIfe_Click(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         frmMain& main = program.main;
         Campaign& campaign = program.campaign;
-        const std::string key = selected_key(main.lstUIfe);
+        const std::string key = element_key(selected_row(main.lstUIfe));
         if (key.starts_with("{") && campaign.curUnit)
             campaign.curUFE = campaign.curUnit->force_elements->item(key);
-        if (main.lstUIfe.selected >= 0 && !main.chkShowAllFE.value && campaign.curUFE) {
+        if (main.lstUIfe.selected >= 0 && !main.chkShowAllFE.value) {
             main.cmdTransferFE.enabled = true;
             main.cmdEditFE.enabled = true;
             main.cmdDeleteFE.enabled = true;
-            main.cmdSetFirefan.enabled = has_firefan(program, *campaign.curUFE);
+            main.cmdSetFirefan.enabled = campaign.curUFE && has_firefan(program, *campaign.curUFE);
         }
-        main.lblUIFFangle.caption =
-            main.cmdSetFirefan.enabled ? std::to_string(campaign.curUFE->FireFanAngle) : "";
+        main.lblUIFFangle.caption = main.cmdSetFirefan.enabled && campaign.curUFE
+                                        ? std::to_string(campaign.curUFE->FireFanAngle)
+                                        : "";
         main.picMap.Refresh();
     });
 }
 
 void lstUIchildunits_DblClick(Program& program) {
     trap(program, " when displaying unit info.", [&] {
-        const std::string key = selected_key(program.main.lstUIchildunits);
-        if (!key.empty()) select_alone(program, program.campaign.colUnits->item(key));
+        const std::string key = subordinate_key(selected_row(program.main.lstUIchildunits));
+        if (program.main.lstUIchildunits.selected >= 0)
+            select_alone(program, program.campaign.colUnits->item(key));
     });
 }
 

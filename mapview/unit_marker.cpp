@@ -38,7 +38,6 @@ void make_unit_marker(Program& program, oUnits& unit) {
     const PictureId picture = load_picture(program, unit);
     frmMain& main = program.main;
     const int index = program.campaign.gNextUnitIndex;
-    const std::int16_t next = to_int16(index + 1);
 
     OverviewDot& dot = main.shpUnit.load(index);
     dot.colour = unit.color;
@@ -56,5 +55,5 @@ void make_unit_marker(Program& program, oUnits& unit) {
     main.bring_to_front(marker);
     marker.visible = true;
     dot.visible = main.mnuOVPU_show_units.checked;
-    program.campaign.gNextUnitIndex = next;
+    program.campaign.gNextUnitIndex = to_int16(index + 1);
 }

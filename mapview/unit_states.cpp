@@ -6,6 +6,11 @@
 
 namespace {
 
+std::int32_t bar_colour(std::int16_t state) {
+    constexpr std::array<std::int32_t, 5> colours{0, 0xFF00, 0xFFFF, 255, 0};
+    return state < 5 ? colours.at(static_cast<std::size_t>(state)) : 0;
+}
+
 void place_bar(Program& program, StateBar& bar, const UnitMarker& marker) {
     bar.left = marker.left + 17;
     bar.top = marker.top + 26;
@@ -16,19 +21,21 @@ void place_bar(Program& program, StateBar& bar, const UnitMarker& marker) {
     bar.visible = true;
 }
 
+void show_bar(Program& program, const oUnits& unit) {
+    StateBar& bar = program.main.shpUnitState.load(unit.img_index);
+    bar.visible = unit.state > 0;
+    if (!bar.visible) return;
+    bar.fill_colour = bar_colour(unit.state);
+    place_bar(program, bar, program.main.imgUnit(unit.img_index));
+}
+
 } // namespace
 
 void refresh_unit_states(Program& program) {
-    constexpr std::array<std::int32_t, 5> colours{0, 0xFF00, 0xFFFF, 255, 0};
     frmMain& main = program.main;
     if (!main.mnuUnitState.checked) return;
-    for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) main.shpUnitState.load(i).visible = false;
-    for (const auto& unit : program.campaign.colUnits) {
-        if (unit->state <= 0 || !main.imgUnit.has(unit->img_index) || unit->img_index == 0) continue;
-        StateBar& bar = main.shpUnitState(unit->img_index);
-        bar.fill_colour = unit->state < 5 ? colours.at(static_cast<std::size_t>(unit->state)) : 0;
-        place_bar(program, bar, main.imgUnit(unit->img_index));
-    }
+    for (const auto& unit : program.campaign.colUnits)
+        if (unit->img_index != 0 && main.imgUnit.has(unit->img_index)) show_bar(program, *unit);
 }
 
 void mnuUnitState_Click(Program& program) {
@@ -41,11 +48,6 @@ void mnuUnitState_Click(Program& program) {
     });
 }
 
-void move_state_bar(Program& program, int index) {
-    frmMain& main = program.main;
-    if (!main.mnuUnitState.checked || !main.shpUnitState.has(index)) return;
-    StateBar& bar = main.shpUnitState(index);
-    const bool was_visible = bar.visible;
-    place_bar(program, bar, main.imgUnit(index));
-    bar.visible = was_visible;
+void move_state_bar(Program& program, const oUnits& unit) {
+    if (program.main.mnuUnitState.checked) show_bar(program, unit);
 }

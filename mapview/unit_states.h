@@ -8,5 +8,5 @@ void mnuUnitState_Click(Program& program);
 /// Puts the bars in their places again while they are shown, as after a unit was edited.
 void refresh_unit_states(Program& program);
 
-/// Moves a marker's bar along, in front of all else, while the bars are shown.
-void move_state_bar(Program& program, int index);
+/// Puts a moved unit's bar at its marker again, in front of all else, while the bars are shown.
+void move_state_bar(Program& program, const oUnits& unit);

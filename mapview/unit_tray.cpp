@@ -40,7 +40,8 @@ void picUnitTray_MouseDown(Program& program, const MapPress& press) {
 
 void picUnitTray_MouseMove(Program& program, const MapPress& press) {
     ShapeControl& band = program.main.shpTrayRubberband;
-    if (press.button == left_button && band.visible) stretch_band(program, band, press.x, press.y);
+    if (press.button == left_button && band_may_grow(program, band))
+        stretch_band(program, band, press.x, press.y);
 }
 
 void picUnitTray_MouseUp(Program& program, const MapPress& /*press*/) {

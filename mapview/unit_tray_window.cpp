@@ -39,7 +39,9 @@ void UnitTrayView::paintEvent(QPaintEvent* event) {
 }
 
 void UnitTrayView::mousePressEvent(QMouseEvent* event) {
+    if (!is_known(event->button())) return;
     const MapPress press = mouse_press(*event, event->button());
+    captured = true;
     if (event->buttons() == event->button()) pressed = hit_target(program, press.x, press.y, Container::tray);
     events.run([&] {
         if (pressed.kind == TargetKind::unit)
@@ -49,21 +51,31 @@ void UnitTrayView::mousePressEvent(QMouseEvent* event) {
     });
 }
 
+void UnitTrayView::end_capture() { captured = false; }
+
 void UnitTrayView::mouseMoveEvent(QMouseEvent* event) {
     const MapPress press = mouse_press(*event, event->buttons());
-    if (program.main.dragging) {
+    if (press.button != 0 && !captured) return;
+    if (map.drag_goes_on(*event)) {
         map.drag_to(event->globalPosition(), false);
         return;
     }
-    if (press.button == 0) return;
-    if (pressed.kind == TargetKind::map) events.run_small([&] { picUnitTray_MouseMove(program, press); });
+    const HitTarget target =
+        press.button != 0 ? pressed : hit_target(program, press.x, press.y, Container::tray);
+    events.run_small([&] {
+        if (target.kind == TargetKind::unit)
+            mouse_move(program, target, press);
+        else
+            picUnitTray_MouseMove(program, press);
+    });
     update();
 }
 
 void UnitTrayView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!captured || !is_known(event->button())) return;
     const MapPress press = mouse_press(*event, event->button());
     if (program.main.dragging) {
-        map.drag_to(event->globalPosition(), true);
+        if (event->button() == Qt::LeftButton) map.drag_to(event->globalPosition(), true);
         return;
     }
     if (pressed.kind == TargetKind::map) events.run([&] { picUnitTray_MouseUp(program, press); });

@@ -14,6 +14,8 @@ class UnitTrayView : public SidePanel {
                  QWidget* parent);
 
     void bring_in_step() override;
+    /// Ends a press whose release goes elsewhere, as the map's.
+    void end_capture();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -29,4 +31,5 @@ class UnitTrayView : public SidePanel {
     EventRunner& events;
     QPushButton* close;
     HitTarget pressed;
+    bool captured = false;
 };

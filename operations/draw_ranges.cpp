@@ -13,7 +13,7 @@ void print_distance(Surface& map, Point centre, double radius, const std::string
     map.print({centre.x - radius + 4, centre.y - 10}, text);
 }
 
-void draw_rings(Surface& map, Point centre) {
+void draw_range_circles(Surface& map, Point centre) {
     constexpr int rings = 10;
     constexpr int pixels_per_ring = 150;
     map.pen.FontSize = 10;
@@ -38,8 +38,9 @@ bool range_circles_are_shown(const Program& program) {
     return program.main.showing_range_circles && !program.campaign.colCirclePoints.empty();
 }
 
-void draw_range_circles(Program& program, Painting& painting) {
-    for (const auto& centre : program.campaign.colCirclePoints) draw_rings(painting.map, place_of(*centre));
+void draw_all_range_circles(Program& program, Painting& painting) {
+    for (const auto& centre : program.campaign.colCirclePoints)
+        draw_range_circles(painting.map, place_of(*centre));
 }
 
 bool path_is_measured(const Program& program) {

@@ -24,6 +24,9 @@ void print_waypoint(Surface& map, const oWaypoint& waypoint) {
     const Point at = place_of(waypoint);
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
+    // Most are settled by where their texts begin, without a look at these.
+    const double em = 2.0 * map.pen.FontSize;
+    if (at.x - 60 - em > map.wanted.right || at.y + 8 - em > map.wanted.bottom) return;
     if (!map.wants(texts_bounds(waypoint, at, map.pen.FontSize))) return;
     map.print({at.x - 60, at.y + 8}, waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour +
                                          ":" + waypoint.end_minute);
@@ -46,6 +49,20 @@ void draw_unit_waypoints(const Program& program, Surface& map, const oUnits& uni
     map.pen.FillStyle = 1;
 }
 
+/// The waypoints of the unit in hand are left out while they are being set: a layer of their own shows them.
+void draw_all_waypoints(const Program& program, Surface& map) {
+    const Campaign& campaign = program.campaign;
+    map.pen.DrawMode = 13;
+    for (const auto& unit : campaign.colUnits)
+        if (!(program.main.set_waypoints && unit == campaign.curUnit))
+            draw_unit_waypoints(program, map, *unit);
+}
+
+/// In the mode that polygons or fire missions have left.
+void draw_selected_waypoints(const Program& program, Surface& map) {
+    if (program.campaign.curUnit) draw_unit_waypoints(program, map, *program.campaign.curUnit);
+}
+
 } // namespace
 
 bool waypoints_are_being_set(const Program& program) {
@@ -60,14 +77,8 @@ void draw_waypoints_being_set(Program& program, Painting& painting) {
 bool waypoints_are_shown(const Program& program) { return program.campaign.gDispWaypoints; }
 
 void draw_waypoints(Program& program, Painting& painting) {
-    const Campaign& campaign = program.campaign;
-    Surface& map = painting.map;
-    if (campaign.gDispWayptAll) {
-        map.pen.DrawMode = 13;
-        for (const auto& unit : campaign.colUnits)
-            if (!(program.main.set_waypoints && unit == campaign.curUnit))
-                draw_unit_waypoints(program, map, *unit);
-    } else if (program.main.picUnitInfo.visible && campaign.gDispWayptSelected && campaign.curUnit) {
-        draw_unit_waypoints(program, map, *campaign.curUnit);
-    }
+    if (program.campaign.gDispWayptAll)
+        draw_all_waypoints(program, painting.map);
+    else if (program.main.picUnitInfo.visible && program.campaign.gDispWayptSelected)
+        draw_selected_waypoints(program, painting.map);
 }

@@ -84,9 +84,10 @@ void draw_unit_firefans(const Program& program, Painting& painting, const oUnits
     });
 }
 
-/// Fans that can't be drawn leave the rest of the picture alone; the paint tells of them at its end.
-template <class Draw> void draw_fans(Painting& painting, Draw draw) {
-    const int number = failure_of(draw);
+/// Runs `draw(unit)`. Fans that can't be drawn leave those of other units and the rest of the picture alone;
+/// the paint tells of them at its end.
+template <class Draw> void draw_fans(Painting& painting, const oUnits& unit, Draw draw) {
+    const int number = failure_of([&] { draw(unit); });
     if (number != 0) painting.firefan_failure = number;
 }
 
@@ -115,10 +116,9 @@ void set_firefan_angle(Program& program, double x, double y) {
 void draw_overview(Program& program, Painting& painting) {
     painting.overview.clear();
     if (program.campaign.gDispOmFirefans)
-        draw_fans(painting, [&] {
-            for (const auto& unit : program.campaign.colUnits)
-                draw_unit_on_overview(program, painting.overview, *unit);
-        });
+        for (const auto& each : program.campaign.colUnits)
+            draw_fans(painting, *each,
+                      [&](const oUnits& unit) { draw_unit_on_overview(program, painting.overview, unit); });
     if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting.overview);
 }
 
@@ -126,14 +126,12 @@ bool firefans_are_shown(const Program& program) { return program.campaign.gDispF
 
 void draw_firefans(Program& program, Painting& painting) {
     const Campaign& campaign = program.campaign;
+    const auto draw = [&](const oUnits& unit) { draw_unit_firefans(program, painting, unit); };
     if (program.main.picUnitInfo.visible && campaign.gDispFirefansSelected) {
         painting.map.pen.ForeColor = red;
-        if (campaign.curUnit)
-            draw_fans(painting, [&] { draw_unit_firefans(program, painting, *campaign.curUnit); });
+        if (campaign.curUnit) draw_fans(painting, *campaign.curUnit, draw);
     } else if (campaign.gDispFirefansAll) {
         painting.map.pen.ForeColor = blue;
-        draw_fans(painting, [&] {
-            for (const auto& unit : campaign.colUnits) draw_unit_firefans(program, painting, *unit);
-        });
+        for (const auto& unit : campaign.colUnits) draw_fans(painting, *unit, draw);
     }
 }

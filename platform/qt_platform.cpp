@@ -85,6 +85,7 @@ class OpenDialog {
   public:
     explicit OpenDialog(QtPlatform& platform) : platform(platform), waiting(platform.is_waiting()) {
         platform.hourglass(false);
+        platform.end_capture();
     }
     OpenDialog(const OpenDialog&) = delete;
     OpenDialog& operator=(const OpenDialog&) = delete;
@@ -119,6 +120,10 @@ QWidget* QtPlatform::parent_window() const {
     return main && main->isVisible() ? main.get() : QApplication::activeWindow(); // at start the splash
 }
 
+void QtPlatform::end_capture() {
+    if (main) main->end_capture();
+}
+
 void QtPlatform::refresh_map() {
     if (program != nullptr) program->main.picMap.Refresh();
 }
@@ -149,7 +154,7 @@ std::string QtPlatform::file_dialog(const FileDialog& dialog) {
     QFileDialog window(parent_window(), to_qt(dialog.title), QString::fromStdString(dialog.directory),
                        filter.section('|', 0, 0) + " (" + pattern + ")");
     window.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    window.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    window.setFileMode(QFileDialog::AnyFile);
     window.setDefaultSuffix(pattern.section('.', 1));
     window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwrite_prompt);
     if (!dialog.file_name.empty()) window.selectFile(to_qt(dialog.file_name));

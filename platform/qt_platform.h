@@ -47,6 +47,8 @@ class QtPlatform : public Platform {
     bool is_waiting() const { return waiting; }
     /// Marks the map for a new paint.
     void refresh_map();
+    /// Ends what the mouse is doing on the map.
+    void end_capture();
 
   private:
     QWidget* parent_window() const;

@@ -172,7 +172,7 @@ void frmMain_window::make_map_area() {
 }
 
 void frmMain_window::make_side_panels() {
-    auto* const tray = new UnitTrayView(program, sprites, *map_view, area_top, events, area);
+    tray = new UnitTrayView(program, sprites, *map_view, area_top, events, area);
     for (SidePanel* const panel :
          {static_cast<SidePanel*>(
               new UnitInfoView(program, sprites, unit_info_buttons(), area_top, events, area)),
@@ -219,7 +219,15 @@ void frmMain_window::bring_in_step(bool map_changed) {
     shown_at = stands_at;
 }
 
-void frmMain_window::open_popup(const std::string& title) { menu(title)->popup(QCursor::pos()); }
+void frmMain_window::open_popup(const std::string& title) {
+    end_capture();
+    menu(title)->popup(QCursor::pos());
+}
+
+void frmMain_window::end_capture() {
+    map_view->end_capture();
+    tray->end_capture();
+}
 
 void frmMain_window::unload() {
     unloading = true;
@@ -249,7 +257,7 @@ void frmMain_window::changeEvent(QEvent* event) {
 
 bool frmMain_window::takes_keys(const QObject* watched) const {
     // While a menu or the menu bar has the keyboard, arrows walk through it.
-    const bool in_menu = menuBar()->activeAction() != nullptr || QApplication::activePopupWidget() != nullptr;
+    const bool in_menu = menuBar()->hasFocus() || QApplication::activePopupWidget() != nullptr;
     return watched == windowHandle() && isActiveWindow() && !in_menu;
 }
 

@@ -19,6 +19,7 @@ class QMenu;
 class QScrollBar;
 class QToolBar;
 class RulerView;
+class UnitTrayView;
 
 /// The main window: menu bar and toolbar from their tables, the map with its rulers and scroll bars, the
 /// overview, the status bar.
@@ -30,6 +31,8 @@ class frmMain_window : public QMainWindow {
     void bring_in_step(bool map_changed);
     /// Opens a popup menu at the pointer.
     void open_popup(const std::string& title);
+    /// A dialog or a menu opens: the release of a button that is down goes there.
+    void end_capture();
     /// Takes the window away; its close box is not asked.
     void unload();
 
@@ -60,6 +63,7 @@ class frmMain_window : public QMainWindow {
     QToolBar* toolbar = nullptr;
     QWidget* area = nullptr;
     MapView* map_view = nullptr;
+    UnitTrayView* tray = nullptr;
     RulerView* horizontal_ruler = nullptr;
     RulerView* vertical_ruler = nullptr;
     OverviewView* overview = nullptr;

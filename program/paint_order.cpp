@@ -26,7 +26,7 @@ constexpr std::array<PaintLayer, 20> layers{{
     {5, polygons_are_shown, draw_polygons},
     {6, waypoints_are_being_set, draw_waypoints_being_set},
     {7, waypoints_are_shown, draw_waypoints},
-    {8, range_circles_are_shown, draw_range_circles},
+    {8, range_circles_are_shown, draw_all_range_circles},
     {9, area_is_being_drawn, draw_area_being_drawn},
     {10, path_is_measured, draw_measured_path},
     {11, always, reset_pen},

@@ -66,7 +66,7 @@ constexpr std::array<PressRow, 34> presses{{
     {17, map, any, group_is_selected, press_with_group},
     {18, all, any, firefan_tool_is_on, press_sets_firefan},
     {19, map | press_on::marker_middle, any, placing_shape, tool_to_come},
-    {20, map, any, moving_shape, tool_to_come},
+    {20, map | press_on::marker_middle, any, moving_shape, tool_to_come},
     {21, map, any, always, press_closes_panel}, // goes on
     {22, late, B1, place_unit, tool_to_come},
     {23, late, B1, is_inserting_line_point, press_inserts_line_point},

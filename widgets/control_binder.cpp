@@ -8,6 +8,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QListView>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -20,6 +21,22 @@ template <class Widget> Widget* named(Widget* widget, const std::string& name) {
     widget->setObjectName(to_qt(name));
     return widget;
 }
+
+/// A list in which a press on the current row counts like one that makes it current.
+class RowList : public QListView {
+  public:
+    using QListView::QListView;
+
+    std::function<void(const QModelIndex&)> pressed_again;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        const QModelIndex before = currentIndex();
+        const bool again = before.isValid() && indexAt(event->position().toPoint()) == before;
+        QListView::mousePressEvent(event);
+        if (again && event->button() == Qt::LeftButton) pressed_again(before);
+    }
+};
 
 QStringList to_rows(const std::vector<std::string>& rows) {
     QStringList all;
@@ -76,8 +93,10 @@ QRadioButton* ControlBinder::option(const std::string& name, const std::string& 
                                     Procedure click) {
     auto* const choice = named(new QRadioButton(to_qt(caption), parent), name);
     choice->setAutoExclusive(false); // the twins say which one is on
-    QObject::connect(choice, &QRadioButton::clicked, choice,
-                     [this, click = std::move(click)] { run(click); });
+    QObject::connect(choice, &QRadioButton::clicked, choice, [this, &twin, click = std::move(click)] {
+        // The one that is on changes nothing: the click has only to be taken back.
+        run(twin.value ? Procedure([] {}) : click);
+    });
     steps.emplace_back([choice, &twin] {
         const QSignalBlocker quiet(choice);
         choice->setChecked(twin.value);
@@ -88,7 +107,7 @@ QRadioButton* ControlBinder::option(const std::string& name, const std::string& 
 
 QListView* ControlBinder::list(const std::string& name, const std::string& accessible_name, ListBox& twin,
                                Procedure click, Procedure double_click) {
-    auto* const view = named(new QListView(parent), name);
+    auto* const view = named(new RowList(parent), name);
     auto* const model = new QStringListModel(view);
     view->setModel(model);
     view->setAccessibleName(to_qt(accessible_name));
@@ -96,11 +115,12 @@ QListView* ControlBinder::list(const std::string& name, const std::string& acces
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the keys stand far to the right
     view->setTextElideMode(Qt::ElideNone);
-    QObject::connect(view->selectionModel(), &QItemSelectionModel::currentChanged, view,
-                     [this, &twin, click = std::move(click)](const QModelIndex& index) {
-                         twin.selected = index.row();
-                         if (click) run(click);
-                     });
+    const auto choose = [this, &twin, click = std::move(click)](const QModelIndex& index) {
+        twin.selected = index.row();
+        if (click) run(click);
+    };
+    QObject::connect(view->selectionModel(), &QItemSelectionModel::currentChanged, view, choose);
+    view->pressed_again = choose;
     QObject::connect(view, &QListView::doubleClicked, view,
                      [this, &twin, double_click = std::move(double_click)](const QModelIndex& index) {
                          twin.selected = index.row();
@@ -124,6 +144,8 @@ QComboBox* ControlBinder::combo(const std::string& name, const std::string& acce
     auto* const box = named(new QComboBox(parent), name);
     box->setAccessibleName(to_qt(accessible_name));
     box->setEditable(true);
+    box->setCompleter(nullptr); // what is typed stays as it is typed
+    box->setInsertPolicy(QComboBox::NoInsert);
     box->addItems(to_rows(twin.rows));
     QObject::connect(box, &QComboBox::currentTextChanged, box,
                      [this, &twin, change = std::move(change)](const QString& text) {

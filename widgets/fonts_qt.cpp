@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
+#include <mutex>
 
 namespace {
 
@@ -25,7 +27,7 @@ constexpr std::array<StandIn, 4> stand_ins{{{"Arial", "Liberation Sans"},
 
 constexpr double pixels_per_point = 96.0 / 72.0;
 
-QString installed_name(const std::string& name) {
+QString look_up(const std::string& name) {
     QString wanted = to_qt(name);
     if (QFontDatabase::hasFamily(wanted)) return wanted;
     for (const StandIn& stand_in : stand_ins)
@@ -33,6 +35,17 @@ QString installed_name(const std::string& name) {
             QFontDatabase::hasFamily(stand_in.instead))
             return stand_in.instead;
     return {};
+}
+
+/// The name of the installed font to take, empty when there is none. Asking the system takes longer than
+/// printing with the font, and fonts don't come and go while the program runs. Painting threads ask, too.
+QString installed_name(const std::string& name) {
+    static std::mutex mutex;
+    static std::map<std::string, QString> known;
+    const std::lock_guard lock(mutex);
+    const auto [place, is_new] = known.try_emplace(name);
+    if (is_new) place->second = look_up(name);
+    return place->second;
 }
 
 } // namespace

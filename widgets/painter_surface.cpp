@@ -1,11 +1,14 @@
 #include "widgets/painter_surface.h"
 
+#include "core/dashes.h"
 #include "widgets/colours_qt.h"
 #include "widgets/fonts_qt.h"
 #include "widgets/text.h"
 
 #include <QFontMetrics>
 #include <QImage>
+#include <QLineF>
+#include <QList>
 #include <QPolygonF>
 #include <QStringList>
 
@@ -31,11 +34,13 @@ QBrush hatch(int style, const QColor& colour, bool mask) {
     return QBrush(texture);
 }
 
-Qt::PenStyle dashes(const Pen& pen) {
+/// Only a thin line can be broken.
+bool is_dashed(const Pen& pen) { return pen.DrawWidth <= 1 && pen.DrawStyle > 0 && pen.DrawStyle < 5; }
+
+Qt::PenStyle outline_style(const Pen& pen) {
     constexpr std::array<Qt::PenStyle, 5> styles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
                                                  Qt::DashDotDotLine};
-    const bool dashed = pen.DrawWidth <= 1 && pen.DrawStyle > 0 && pen.DrawStyle < 5;
-    return dashed ? styles[static_cast<std::size_t>(pen.DrawStyle)] : Qt::SolidLine;
+    return is_dashed(pen) ? styles[static_cast<std::size_t>(pen.DrawStyle)] : Qt::SolidLine;
 }
 
 QRectF around(Point centre, double radius) {
@@ -54,8 +59,8 @@ const QPen& PainterSurface::outline() {
         outlined->DrawStyle == pen.DrawStyle)
         return outline_pen;
     outlined = pen;
-    outline_pen = {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), dashes(pen), Qt::RoundCap,
-                   Qt::RoundJoin};
+    outline_pen = {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), outline_style(pen),
+                   Qt::RoundCap, Qt::RoundJoin};
     return outline_pen;
 }
 
@@ -90,8 +95,19 @@ template <class Draw> void PainterSurface::fill_and_outline(Draw draw) {
 
 void PainterSurface::line(Point from, Point to) {
     apply_mode();
-    painter.setPen(outline());
-    painter.drawLine(QPointF(from.x, from.y), QPointF(to.x, to.y));
+    if (!is_dashed(pen)) {
+        painter.setPen(outline());
+        painter.drawLine(QPointF(from.x, from.y), QPointF(to.x, to.y));
+        return;
+    }
+    // The library starts its own dashes where the line comes into view: they would crawl under scrolling.
+    const Bounds in_reach = wanted.grown_by(pen.DrawWidth);
+    const std::vector<Point> strokes = dashes(from, to, pen.DrawStyle, in_reach);
+    QList<QLineF> lines;
+    for (std::size_t i = 0; i + 1 < strokes.size(); i += 2)
+        lines << QLineF(strokes[i].x, strokes[i].y, strokes[i + 1].x, strokes[i + 1].y);
+    painter.setPen(to_qt_colour(pen.ForeColor));
+    painter.drawLines(lines);
 }
 
 void PainterSurface::circle(Point centre, double radius) {

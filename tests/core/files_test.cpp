@@ -4,6 +4,7 @@
 
 #include "tests/support/program_test.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using Files = ProgramTest;
@@ -117,4 +118,10 @@ TEST_F(Files, ReadOnlyFolderFailsWith75) {
     std::filesystem::permissions(folder, perms::owner_all);
     EXPECT_EQ(changed + changed_back, 0);
     EXPECT_EQ(number, 75);
+}
+
+TEST_F(Files, PipeInThePlaceOfAFileIsNotWaitedFor) {
+    const std::string pipe = path("pipe.tvn");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(number_of([&] { files::open_for_output(pipe); }), 75);
 }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <bit>
 #include <limits>
 
 namespace {
@@ -143,4 +144,19 @@ TEST(Numbers, FilesHoldTheShortestPlainDigitsOfEachWidth) {
     std::array<char, longest_integer> room{};
     EXPECT_EQ(std::string(room.data(), write_integer(room.data(), std::numeric_limits<std::int64_t>::min())),
               "-9223372036854775808");
+}
+
+TEST(Numbers, TooLargeOrTooSmallIsDecidedByTheFirstDigitsPlace) {
+    const std::string noughts(700, '0');
+    EXPECT_EQ(number_of([&] { to_double("1" + noughts + "e-100"); }), 6);
+    EXPECT_EQ(to_double("0." + noughts + "1e100"), 0);
+    EXPECT_EQ(number_of([] { to_double("1e999"); }), 6);
+    EXPECT_EQ(to_double("1e-999"), 0);
+}
+
+TEST(Numbers, SingleIsReadWithoutADetour) {
+    const std::string digits = "0.00000000000000000000000007038531";
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(to_single(digits)), 0x15AE43FDU);
+    EXPECT_EQ(number_of([] { to_single("1e39"); }), 6);
+    EXPECT_EQ(number_of([] { to_single("abc"); }), 13);
 }

@@ -73,6 +73,19 @@ TEST_F(UnitDrawing, LinksInACircleOrToNobodyEndThePaintWithTheirNumber) {
     EXPECT_EQ(platform.texts(), (Told{"Error 28 when updating the map.", "Error 5 when updating the map."}));
 }
 
+TEST_F(UnitDrawing, CircleIsFoundBeforeItsOtherSubordinatesAreDrawnAgain) {
+    const auto unit = add_unit("{1}");
+    for (int i = 0; i < 100; ++i) {
+        const std::string id = "{below " + std::to_string(i) + "}";
+        add_unit(id);
+        add_child(*unit, id);
+    }
+    add_child(*unit, "{1}");
+    program.campaign.curUnit = unit;
+    EXPECT_EQ(number_of([&] { draw_hierarchy(program, painting); }), 28);
+    EXPECT_EQ(painting.map.figures().size(), 101U);
+}
+
 TEST_F(UnitDrawing, NamesStandUnderAndBesideVisibleMarkers) {
     add_unit("{1}")->parent_name = "the HQ";
     add_unit("{2}");

@@ -1,3 +1,4 @@
+#include "annotation/line_panel.h"
 #include "mapview/overview.h"
 
 #include "mapview/frmDisplay.h"
@@ -193,4 +194,91 @@ TEST_F(Overview, UnitsEntryFlipsTheOptionAndTheMarkers) {
     EXPECT_FALSE(campaign.gDispUnits || main.mnuShowHideUnits.checked || marker(*unit).visible);
     mnuShowHideUnits_Click(program);
     EXPECT_TRUE(campaign.gDispUnits && main.mnuShowHideUnits.checked && marker(*unit).visible);
+}
+
+TEST_F(Overview, OpeningTheTrayEndsEveryModeOfTheLineTool) {
+    cmdDrawLines_Click(program);
+    main.drawing_lines = main.deleting_line = main.moving_line_point = main.deleting_line_point = true;
+    main.inserting_line_point = main.linTempLine.visible = true;
+    main.cmdLoad.enabled = false;
+    cmdUnitTray_Click(program);
+    EXPECT_FALSE(main.drawing_lines || main.deleting_line || main.moving_line_point ||
+                 main.deleting_line_point || main.inserting_line_point || main.linTempLine.visible);
+    EXPECT_FALSE(main.cmdLoad.enabled) << "what other tools have switched off stays so";
+    cmdUnitTray_Click(program);
+    EXPECT_FALSE(main.picUnitTray.visible) << "the button closes it again";
+}
+
+TEST_F(Overview, BandOfTheTrayTakesAMarkerThereAsOneOfTheMap) {
+    const auto on_map = add_marked("{1}", 100, 100);
+    const auto in_tray = add_marked("{2}", 100, 100);
+    marker(*in_tray).container = Container::tray;
+    picUnitTray_MouseDown(program, {left_button, 0, 50, 50});
+    picUnitTray_MouseMove(program, {left_button, 0, 150, 150});
+    picUnitTray_MouseUp(program, {left_button, 0, 150, 150});
+    EXPECT_EQ(selected(), 2U);
+    EXPECT_EQ(marker(*in_tray).border_style + marker(*on_map).border_style, 2);
+}
+
+TEST_F(Overview, BandOfTheTrayGrowsUnderTheConditionsOfTheMap) {
+    main.checking_range = true;
+    picUnitTray_MouseDown(program, {left_button, 0, 50, 50});
+    picUnitTray_MouseMove(program, {left_button, 0, 150, 150});
+    EXPECT_EQ(main.shpTrayRubberband.width, 0);
+}
+
+TEST_F(Overview, GroupDroppedOnTheOverviewKeepsItsShape) {
+    press_unit(*add_marked("{1}", 100, 100));
+    const auto second = add_marked("{2}", 200, 100);
+    press_unit(*second, left_button, ctrl_key);
+    press_unit(*campaign.colUnits->item("{1}"), left_button, shift_key);
+    drag_drop(program, DropSite::overview, 50, 60);
+    EXPECT_EQ(second->xcoord - campaign.colUnits->item("{1}")->xcoord, 100);
+}
+
+TEST_F(Overview, EachBoxOfTheDisplayFormGoesToItsOwnOption) {
+    auto& form = program.form<frmDisplay>();
+    const std::vector<std::pair<CheckBox*, bool DisplayOptions::*>> boxes{
+        {&form.chkMmLabels, &DisplayOptions::gDispLabels},
+        {&form.chkMmLines, &DisplayOptions::gDispLines},
+        {&form.chkMmShapes, &DisplayOptions::gDispShapes},
+        {&form.chkMmPolygons, &DisplayOptions::gDispPolygons},
+        {&form.chkMmFireMissions, &DisplayOptions::gDispFireMissions},
+        {&form.chkShowAOO, &DisplayOptions::gDispAoo},
+        {&form.chkShowWaypoints, &DisplayOptions::gDispWaypoints},
+        {&form.chkWayptData, &DisplayOptions::gDispWayptData},
+        {&form.chkShowFirefans, &DisplayOptions::gDispFirefans},
+        {&form.chkMmUnitName, &DisplayOptions::gDispUnitNames},
+        {&form.chkMmUnitHQname, &DisplayOptions::gDispUnitHQNames},
+        {&form.chkOmUnits, &DisplayOptions::gDispOmUnits},
+        {&form.chkOmFirefans, &DisplayOptions::gDispOmFirefans},
+        {&form.chkOmLines, &DisplayOptions::gDispOmLines},
+        {&form.chkUnitsecurityzone, &DisplayOptions::gDispUSZ},
+        {&form.chkUSZfilled, &DisplayOptions::gDispUSZFilled}};
+    for (const auto& [box, option] : boxes) {
+        platform.on_modal["frmDisplay"] = [chosen = box](Form& shown) {
+            auto& its = static_cast<frmDisplay&>(shown);
+            its.cmdClearAll_Click();
+            chosen->value = true;
+            its.cmdOK_Click();
+        };
+        mnuSetDisplay_Click(program);
+        for (const auto& [other, other_option] : boxes)
+            EXPECT_EQ(campaign.*other_option, other_option == option);
+    }
+}
+
+TEST_F(Overview, ChecksOffDisableTheirOptions) {
+    auto& form = program.form<frmDisplay>();
+    form.chkShowFirefans.value = form.chkUnitsecurityzone.value = false;
+    form.chkShowFirefans_Click();
+    form.chkUnitsecurityzone_Click();
+    EXPECT_FALSE(form.optFirefans[0].enabled || form.optFirefans[1].enabled || form.optUSZ[0].enabled ||
+                 form.optUSZ[1].enabled);
+}
+
+TEST_F(Overview, UnitsEntryRepaints) {
+    main.picMap.marked = false;
+    mnuShowHideUnits_Click(program);
+    EXPECT_TRUE(main.picMap.marked);
 }

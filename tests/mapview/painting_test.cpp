@@ -85,6 +85,34 @@ TEST_F(MapPainting, AllRefreshesOfOneEventAreOnePaint) {
     EXPECT_EQ(painted.size(), 2U);
 }
 
+TEST_F(MapPainting, MessageOfAFailedPaintIsToldOnceWhateverHappensMeanwhile) {
+    program.campaign.curUnit = add_unit("{1}", "{gone}");
+    program.main.hierarchy_on = true;
+    program.main.picMap.Refresh();
+    platform.on_message = [this](const MessageBox& /*box*/) {
+        if (platform.messages.size() < 5) paint_if_marked(program); // a timer ticks under the open box
+    };
+    EXPECT_TRUE(paint_if_marked(program));
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when updating the map."});
+}
+
+TEST_F(MapPainting, FailureOfAnEarlyLayerLeavesRulersAndOverviewAsTheyWere) {
+    program.main.mnuOVPU_showlines.checked = true;
+    auto line = std::make_shared<oLines>();
+    for (const int x : {100, 2000})
+        line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 100}));
+    program.campaign.colLines->add(line);
+    picMap_Paint(program);
+    const std::size_t numbers = program.painting.hcoord.figures().size();
+    program.campaign.curUnit = add_unit("{1}", "{gone}");
+    program.main.hierarchy_on = true;
+    picMap_Paint(program);
+    EXPECT_GT(numbers, 0U);
+    EXPECT_EQ(program.painting.hcoord.figures().size(), numbers);
+    EXPECT_EQ(program.painting.overview.figures().size(), 1U);
+    EXPECT_TRUE(program.painting.map.empty());
+}
+
 TEST_F(MapPainting, PenResetIsThatOfGridAndLines) {
     Painting painting;
     painting.map.pen = {1, 2, 3, 4, 5, 9, 10, true};
@@ -140,6 +168,7 @@ TEST_F(MapPainting, RulersCountEastwardsAndNorthwards) {
 
 TEST_F(MapPainting, GridAndUpperRulerRoundTheSizeToo) {
     map_size(1290, 1130); // 8.6 and 7.53 kilometres
+    program.main.picMapwindow.width = program.main.picMapwindow.height = 2000;
     program.campaign.gShowGrid = true;
     program.campaign.gMapEast0 = 3;
     picMap_Paint(program);
@@ -213,11 +242,12 @@ TEST(DrawingList, ReplaysOnlyWhatCanTouchTheWantedArea) {
     list.print({0, 0}, "text");
     list.pie({2000, 2000}, 10, 0, 1);
     DrawingList shown;
-    list.replay(shown, {0, 0, 100, 100});
+    shown.wanted = {0, 0, 100, 100};
+    list.replay(shown);
     ASSERT_EQ(shown.figures().size(), 3U);
     EXPECT_EQ(shown.figures()[1].pen.DrawWidth, 20) << "its width reaches into the area";
     DrawingList all;
-    list.replay(all, {-1e6, -1e6, 1e6, 1e6});
+    list.replay(all);
     ASSERT_EQ(all.figures().size(), 6U);
     EXPECT_EQ(all.figures()[5].end, 1);
     EXPECT_EQ(all.pen, list.pen);

@@ -20,7 +20,7 @@ class Scrolling : public ProgramTest {
     }
 
     using At = std::pair<int, int>;
-    const HitTarget marker{TargetKind::label, 1};
+    const HitTarget marker{TargetKind::unit, 0};
 };
 
 } // namespace

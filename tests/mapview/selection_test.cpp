@@ -296,7 +296,73 @@ TEST_F(Selection, StateBarsShowGoodToCriticalAndFollowTheMarker) {
 TEST_F(Selection, FailureInAPressIsToldAndTheProgramGoesOn) {
     marker(*first).tag = "{gone}";
     press_unit(*first);
-    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when pressing a mouse button on the map."});
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when displaying unit info."});
     drag_drop(program, DropSite::map, 1, 1);
     EXPECT_EQ(platform.texts().back(), "Error 5 when moving a unit.");
+}
+
+TEST_F(Selection, TombThatCtrlHasShownIsToldAndTheSelectionStays) {
+    press_unit(*second);
+    marker(*first).tag = deleted_tag;
+    campaign.colUnits->remove("{1}");
+    press_unit(*first);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when displaying unit info."});
+    EXPECT_EQ(selected(), 1U);
+    EXPECT_EQ(marker(*second).border_style, 1);
+}
+
+TEST_F(Selection, RightPressOnAGroupOpensTheMenuAndKeepsTheGroup) {
+    select_both();
+    press_unit(*first, right_button);
+    EXPECT_EQ(selected(), 2U);
+    EXPECT_EQ(platform.log.back(), std::string("popup ") + unit_popup);
+}
+
+TEST_F(Selection, BarOfAMarkerMadeLaterAppearsWhenItMoves) {
+    mnuUnitState_Click(program);
+    const auto later = add_marked("{3}", 700, 500);
+    later->state = 2;
+    EXPECT_FALSE(main.shpUnitState.has(3) && main.shpUnitState(3).visible);
+    move_unit_marker(program, 3, 900, 900);
+    EXPECT_TRUE(main.shpUnitState(3).visible);
+    EXPECT_EQ(main.shpUnitState(3).fill_colour, 0xFFFF);
+    later->state = 3;
+    refresh_unit_states(program);
+    EXPECT_EQ(main.shpUnitState(3).fill_colour, 255);
+}
+
+TEST_F(Selection, AreaFarAwayCannotOverflow) {
+    first->area_of_opeartion->add(std::make_shared<oCoordinates>(oCoordinates{-2147483647, 0}));
+    mnuLeaveAOO_Click(program);
+    EXPECT_EQ(number_of([&] { move_unit_marker(program, 1, 4000, 500); }), 6);
+}
+
+TEST_F(Selection, DragScrollsAtTheEdgeOfTheView) {
+    main.edge_scrolling = true;
+    main.scrlHMap.value = 500;
+    main.picMap.left = -500;
+    press_unit(*first, left_button, shift_key);
+    drag_over(program, DropSite::map, 503, 300);
+    EXPECT_EQ(main.scrlHMap.value, 490);
+}
+
+TEST_F(Selection, BandTakesHiddenMarkersAndThoseOfTheTrayByTheirPlaces) {
+    marker(*first).visible = false;
+    marker(*second).container = Container::tray;
+    press(400, 400);
+    move(700, 700, left_button);
+    release(700, 700);
+    EXPECT_EQ(selected(), 2U);
+}
+
+TEST_F(Selection, MembersOfAGroupAreClampedEachForItself) {
+    select_both();
+    press_unit(*first, left_button, shift_key);
+    drag_drop(program, DropSite::map, 5350, 500);
+    EXPECT_EQ(first->xcoord, 5350);
+    EXPECT_EQ(second->xcoord, 5376);
+    EXPECT_EQ(marker(*second).container, Container::map);
+    press_unit(*first, left_button, shift_key);
+    drag_drop(program, DropSite::tray, 50, 50);
+    EXPECT_EQ(marker(*second).container, Container::tray);
 }

@@ -231,3 +231,104 @@ TEST_F(UnitInfo, ChainOfCommandButtonToggles) {
     cmdHierarchy_Click(program);
     EXPECT_FALSE(main.hierarchy_on || main.cmdHierarchy.on());
 }
+
+TEST_F(UnitInfo, QuantitiesBelowZeroGetNoughtsByValue) {
+    add_element(*unit, 1, -5, 'A');
+    add_element(*unit, 1, -15, 'B');
+    show_unit_info(program, "{1}");
+    EXPECT_TRUE(main.lstUIfe.rows[0].starts_with("Rifle squad x 00-5, "));
+    EXPECT_TRUE(main.lstUIfe.rows[1].starts_with("Rifle squad x 00-15, "));
+}
+
+TEST_F(UnitInfo, FailureKeepsWhatWasFilledBefore) {
+    const auto shown = add_marked("{shown}", 10, 10);
+    show_unit_info(program, "{shown}");
+    add_element(*unit, 1, 5, 'A');
+    add_child(*unit, "{gone}");
+    show_unit_info(program, "{1}");
+    EXPECT_TRUE(main.lstUIfe.rows.empty()) << "subordinates come first";
+    EXPECT_EQ(campaign.curUnit, shown);
+    unit->children.drop();
+    const auto below = add_below("{a}", *unit);
+    add_below("{b}", *unit);
+    add_element(*below, 1, 1, 'B')->ammo = 30000;
+    add_element(*below, 1, 1, 'C')->ammo = 30000;
+    show_unit_info(program, "{1}");
+    EXPECT_EQ(main.lstUIchildunits.rows.size(), 2U) << "the list does not end at the sum that is too large";
+    EXPECT_EQ(main.lstUIfe.rows.size(), 1U);
+    EXPECT_EQ(platform.texts(),
+              (Rows{"Error 5 when displaying unit info.", "Error 6 when displaying unit info."}));
+}
+
+TEST_F(UnitInfo, ElementThatTheCatalogueLacksIsToldWithTheSubordinatesShown) {
+    add_below("{a}", *unit);
+    add_element(*unit, 77, 1, 'A');
+    show_unit_info(program, "{1}");
+    EXPECT_EQ(platform.texts(), Rows{"Error 5 when displaying unit info."});
+    EXPECT_EQ(main.lstUIchildunits.rows.size(), 1U);
+}
+
+TEST_F(UnitInfo, HqIsNamedInFull) {
+    const auto below = add_below("{a}", *unit);
+    show_unit_info(program, "{a}");
+    EXPECT_EQ(main.lblUIparentname.caption, "Soviet 1st Rifle");
+    EXPECT_EQ(main.imgUIunit, marker(*below).picture);
+}
+
+TEST_F(UnitInfo, AmmunitionAndSupplyAddUp) {
+    const auto a = add_below("{a}", *unit);
+    a->current_supply = 3;
+    add_element(*unit, 1, 5, 'A')->ammo = 40;
+    add_element(*a, 1, 5, 'B')->ammo = 50;
+    add_element(*a, 1, 5, 'C')->ammo = 7;
+    main.chkShowAllFE.value = true;
+    show_unit_info(program, "{1}");
+    EXPECT_TRUE(main.lstUIfe.rows[0].starts_with("Rifle squad x 005, Regular ,ammo = 40 "));
+    EXPECT_EQ(main.lstUIfe.rows[1], "Rifle squad x 010, Regular ,ammo = 57");
+    EXPECT_EQ(main.lblUIAccCurrSupply.caption, "7");
+}
+
+TEST_F(UnitInfo, AnotherClickOnAnElementShowsItsNewAngleAndRepaints) {
+    const auto gun = add_element(*unit, 2, 1, 'B');
+    add_element(*unit, 1, 1, 'C');
+    show_unit_info(program, "{1}");
+    main.lstUIfe.selected = 0;
+    lstUIfe_Click(program);
+    gun->FireFanAngle = 30;
+    main.picMap.marked = false;
+    lstUIfe_Click(program);
+    EXPECT_EQ(main.lblUIFFangle.caption, "30");
+    EXPECT_TRUE(main.picMap.marked);
+    main.lstUIfe.selected = 1;
+    lstUIfe_Click(program);
+    EXPECT_FALSE(main.cmdSetFirefan.enabled) << "the next one has no fan";
+}
+
+TEST_F(UnitInfo, ElementWithoutAProperKeyStillEnablesItsButtons) {
+    const auto element = std::make_shared<oUnitForceElements>();
+    element->Index = 1;
+    unit->force_elements->add(element, "odd");
+    show_unit_info(program, "{1}");
+    main.lstUIfe.selected = 0;
+    lstUIfe_Click(program);
+    EXPECT_TRUE(main.cmdEditFE.enabled && main.cmdDeleteFE.enabled && main.cmdTransferFE.enabled);
+    EXPECT_FALSE(main.cmdSetFirefan.enabled);
+    EXPECT_EQ(campaign.curUFE, nullptr);
+}
+
+TEST_F(UnitInfo, MarkInANameHidesTheKey) {
+    add_below(key('a'), *unit)->name = "1###2";
+    press_unit(*unit);
+    main.lstUIchildunits.selected = 0;
+    lstUIchildunits_DblClick(program);
+    EXPECT_EQ(platform.texts(), Rows{"Error 5 when displaying unit info."});
+    EXPECT_EQ(campaign.curUnit, unit);
+}
+
+TEST_F(UnitInfo, CheckOfAccumulatedRowsShowsTheUnitAgain) {
+    add_element(*add_below("{a}", *unit), 1, 7, 'B');
+    show_unit_info(program, "{1}");
+    main.chkShowAllFE.value = true;
+    chkShowAllFE_Click(program);
+    EXPECT_EQ(main.lstUIfe.rows.size(), 1U);
+}

@@ -103,7 +103,7 @@ TEST_F(Areas, RangeRingsStandAKilometreApartWithFourTextsEach) {
     EXPECT_FALSE(range_circles_are_shown(program));
     program.campaign.colCirclePoints->add(vertex(1000, 1200));
     EXPECT_TRUE(range_circles_are_shown(program));
-    draw_range_circles(program, painting);
+    draw_all_range_circles(program, painting);
     const Told all = told(painting.map);
     ASSERT_EQ(all.size(), 51U);
     EXPECT_EQ(all[0], "circle 1000,1200 r3");

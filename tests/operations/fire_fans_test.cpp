@@ -53,7 +53,7 @@ class FireFans : public ProgramTest {
         add_element(12, angle);
         painting.map.clear();
         draw_firefans(program, painting);
-        const auto& figure = painting.map.figures().at(0);
+        const auto figure = painting.map.figures().at(0);
         const double degrees = 180 / std::numbers::pi;
         return {to_long(figure.start * degrees), to_long(figure.end * degrees)};
     }
@@ -74,8 +74,8 @@ TEST_F(FireFans, OnlyArtilleryOfTheCatalogueWithAFanCanBeTurned) {
 TEST_F(FireFans, AnglePointsFromTheUnitToThePointer) {
     const std::vector<std::tuple<double, double, int>> rows{
         {1000, 1900, 0},  {1000, 2100, 180}, {1000, 2000, 180}, {1100, 2000, 90}, {900, 2000, 270},
-        {1100, 1900, 45}, {1100, 2100, 134}, {900, 2100, 225},  {900, 1900, 314}};
-    for (const auto& [x, y, angle] : rows) EXPECT_NEAR(firefan_angle(*unit, x, y), angle, 1) << x << "," << y;
+        {1100, 1900, 44}, {1100, 2100, 135}, {900, 2100, 224},  {900, 1900, 315}};
+    for (const auto& [x, y, angle] : rows) EXPECT_EQ(firefan_angle(*unit, x, y), angle) << x << "," << y;
     EXPECT_EQ(firefan_angle(*unit, 1000, 2000), 180);
     EXPECT_EQ(firefan_angle(*unit, 1050.5, 2000), 90);
 }
@@ -97,6 +97,7 @@ TEST_F(FireFans, TurningWithNothingInHandIsTold) {
 TEST_F(FireFans, SixtyDegreesAroundTheBearing) {
     EXPECT_EQ(arc(0), std::pair(60, 120));
     EXPECT_EQ(arc(90), std::pair(330, 30));
+    EXPECT_EQ(arc(60), std::pair(0, 60));
     EXPECT_EQ(arc(120), std::pair(300, 0));
     EXPECT_EQ(arc(180), std::pair(240, 300));
     EXPECT_EQ(arc(270), std::pair(150, 210));
@@ -177,4 +178,55 @@ TEST_F(FireFans, ElementThatTheCatalogueLacksIsToldOnceAndTheOtherLayersStand) {
     picMap_Paint(program);
     EXPECT_EQ(platform.texts(), Told{"Error 5 when drawing firefans."});
     EXPECT_FALSE(program.painting.map.figures().empty());
+}
+
+TEST_F(FireFans, BrokenFanOfOneUnitLeavesThoseOfTheUnitsBehindIt) {
+    add_element(77);
+    unit = add_unit("{2}");
+    unit->img_index = 1;
+    add_element(13);
+    program.campaign.gDispFirefans = true;
+    picMap_Paint(program);
+    EXPECT_EQ(platform.texts(), Told{"Error 5 when drawing firefans."});
+    EXPECT_EQ(told(program.painting.map).back(), "circle 0,0 r300");
+    EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
+}
+
+TEST_F(FireFans, LinesOnTheOverviewFollowTheirMenuEntry) {
+    auto line = std::make_shared<oLines>();
+    for (const int x : {0, 240}) line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 0}));
+    program.campaign.colLines->add(line);
+    draw_overview(program, painting);
+    EXPECT_TRUE(painting.overview.empty());
+    program.main.mnuOVPU_showlines.checked = true;
+    draw_overview(program, painting);
+    EXPECT_EQ(told(painting.overview), Told{"line 0,0 10,0"});
+}
+
+TEST_F(FireFans, GateIsTheirOption) {
+    EXPECT_FALSE(firefans_are_shown(program));
+    program.campaign.gDispFirefans = true;
+    EXPECT_TRUE(firefans_are_shown(program));
+}
+
+TEST_F(FireFans, SelectedUnitComesBeforeAllUnitsWhileItsPanelIsOpen) {
+    add_element(13);
+    const auto first = unit;
+    unit = add_unit("{2}");
+    unit->img_index = 1;
+    add_element(13);
+    program.campaign.gDispFirefansSelected = true;
+    program.campaign.curUnit = first;
+    draw_firefans(program, painting);
+    EXPECT_EQ(painting.map.figures().size(), 2U) << "without the panel all units are shown";
+    painting.map.clear();
+    program.main.picUnitInfo.visible = true;
+    draw_firefans(program, painting);
+    EXPECT_EQ(painting.map.figures().size(), 1U);
+    painting.map.clear();
+    program.campaign.gDispFirefansSelected = false;
+    draw_firefans(program, painting);
+    ASSERT_EQ(painting.map.figures().size(), 2U);
+    EXPECT_EQ(painting.map.figures()[0].pen.FillColor, 255);
+    EXPECT_EQ(painting.map.figures()[1].pen.FillColor, 0xFF0000) << "another unit";
 }

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <random>
+#include <set>
 
 namespace {
 
@@ -49,13 +50,16 @@ const std::vector<RowState> states{{1, [](Program& p) { p.campaign.moving_fire_m
 /// The rows that a press acts on, in order; every row answers as the real one goes on or ends.
 std::vector<int> acted;
 
+bool goes_on(int number) {
+    return (number >= 11 && number <= 14) || number == 21 || (number >= 30 && number <= 32);
+}
+
 template <std::size_t Row> Outcome record(Program& program, const MapPress& press) {
     static_cast<void>(program);
     static_cast<void>(press);
     const int number = static_cast<int>(Row);
     acted.push_back(number);
-    const bool on = (number >= 11 && number <= 14) || number == 21 || (number >= 30 && number <= 32);
-    return on ? Outcome::goes_on : Outcome::done;
+    return goes_on(number) ? Outcome::goes_on : Outcome::done;
 }
 
 template <std::size_t... Rows> std::vector<PressRow> recording(std::index_sequence<Rows...> /*rows*/) {
@@ -67,6 +71,26 @@ template <std::size_t... Rows> std::vector<PressRow> recording(std::index_sequen
 class PressOrder : public MapTest {
   protected:
     PressOrder() : rows(recording(std::make_index_sequence<34>())) { program.tool_order.presses = rows; }
+
+    void clear_tools() {
+        static_cast<ToolFlags&>(main) = {};
+        campaign.placing_label = campaign.placing_fire_mission = false;
+        campaign.selecting_fire_mission = campaign.moving_fire_mission = false;
+        campaign.colSelectedUnits.drop();
+        main.picPlaceShapes.visible = false;
+    }
+
+    /// What acts when the conditions of both hold: all in order, up to the first that ends the press.
+    static std::vector<int> together(const std::vector<int>& one, const std::vector<int>& other) {
+        std::set<int> all(one.begin(), one.end());
+        all.insert(other.begin(), other.end());
+        std::vector<int> acting;
+        for (const int number : all) {
+            acting.push_back(number);
+            if (!goes_on(number)) break;
+        }
+        return acting;
+    }
 
     std::vector<int> acting(int button) {
         acted.clear();
@@ -146,37 +170,30 @@ TEST_F(PressOrder, OfTwoToolsTheEarlierActsAndEndsUnlessItGoesOn) {
     for (const RowState& first : states)
         for (const RowState& second : states) {
             if (first.number >= second.number) continue;
-            static_cast<ToolFlags&>(main) = {};
-            campaign.placing_label = campaign.placing_fire_mission = false;
-            campaign.selecting_fire_mission = campaign.moving_fire_mission = false;
-            campaign.colSelectedUnits.drop();
-            main.picPlaceShapes.visible = false;
-            first.set(program);
-            const std::vector<int> alone = acting(left_button);
-            second.set(program);
-            const std::vector<int> both = acting(left_button);
-            ASSERT_FALSE(both.empty());
-            EXPECT_EQ(both.front(), std::min(alone.front(), both.front()));
-            EXPECT_TRUE(std::is_sorted(both.begin(), both.end()));
-            const bool ends = alone.size() == 1;
-            if (ends) EXPECT_EQ(both, alone) << first.number << " and " << second.number;
+            for (const int button : {left_button, right_button, 4}) {
+                clear_tools();
+                first.set(program);
+                const std::vector<int> alone = acting(button);
+                clear_tools();
+                second.set(program);
+                const std::vector<int> other = acting(button);
+                first.set(program);
+                EXPECT_EQ(acting(button), together(alone, other))
+                    << first.number << " and " << second.number << " with button " << button;
+            }
         }
 }
 
 TEST_F(PressOrder, MarkerOffersThePressToTheEarlyRowsAndThenToLineAndLabelTools) {
     const auto unit = add_marked("{1}", 500, 500);
     for (const RowState& state : states) {
-        static_cast<ToolFlags&>(main) = {};
-        campaign.placing_label = campaign.placing_fire_mission = false;
-        campaign.selecting_fire_mission = campaign.moving_fire_mission = false;
-        campaign.colSelectedUnits.drop();
-        main.picPlaceShapes.visible = false;
+        clear_tools();
         main.picUnitInfo.visible = false;
         state.set(program);
         acted.clear();
         press_unit(*unit);
         const int n = state.number;
-        const bool map_only = n == 17 || n == 20 || n == 30;
+        const bool map_only = n == 17 || n == 30;
         const int row = n == 7 ? 6 : n == 16 ? 0 : n;
         EXPECT_EQ(acted, map_only ? std::vector<int>{} : std::vector<int>{row}) << n;
         const bool goes_on = (n >= 11 && n <= 13) || map_only;
@@ -250,7 +267,156 @@ TEST_F(MapTest, ScratchLinesFollowThePointerWithTheirFreeEnds) {
     EXPECT_EQ(main.linTempLine2.y1, 6);
     EXPECT_EQ(main.linTempLine2.y2, 60);
     main.linTempLine.visible = false;
+    main.lblUser.load(1);
     mouse_move(program, {TargetKind::label, 1}, {0, 0, 70, 80});
     EXPECT_EQ(main.linTempLine.x2, 50);
     EXPECT_EQ(main.linTempLine2.x2, 70);
+}
+
+TEST_F(MapTest, RangeToolsLetALeftPressGoOnToPanelSelectionAndBand) {
+    for (bool* tool : {&main.checking_range, &main.checking_path_range, &main.showing_range_circles}) {
+        const auto unit = add_marked("{" + std::to_string(campaign.gNextUnitIndex) + "}", 500, 500);
+        main.picUnitInfo.visible = main.shpRubberband.visible = false;
+        press_unit(*unit);
+        *tool = true;
+        press(2000, 2000);
+        EXPECT_FALSE(main.picUnitInfo.visible);
+        EXPECT_EQ(selected(), 0U);
+        EXPECT_TRUE(main.shpRubberband.visible);
+        *tool = false;
+        release(2000, 2000);
+    }
+}
+
+TEST_F(MapTest, ToolsThatEndAPressStartNoBand) {
+    for (bool* tool : {&main.drawing_aoo, &main.setting_firefan, &main.inserting_line_point,
+                       &main.moving_line_point, &main.deleting_line, &main.deleting_line_point}) {
+        *tool = true;
+        press(2000, 2000);
+        EXPECT_FALSE(main.shpRubberband.visible);
+        *tool = false;
+        platform.messages.clear();
+    }
+}
+
+TEST_F(MapTest, RightPressOnAMarkerLeavesTheRangeToolOn) {
+    const auto unit = add_marked("{1}", 500, 500);
+    main.checking_range = true;
+    press_unit(*unit, right_button);
+    EXPECT_TRUE(main.checking_range);
+    press(2000, 2000, right_button);
+    EXPECT_FALSE(main.checking_range);
+}
+
+TEST_F(MapTest, RightPressWithAGroupTakesOnlyThatOff) {
+    press_unit(*add_marked("{1}", 500, 500));
+    press_unit(*add_marked("{2}", 600, 500), left_button, ctrl_key);
+    main.checking_range = true;
+    press(2000, 2000, right_button);
+    EXPECT_EQ(selected(), 0U);
+    EXPECT_TRUE(main.checking_range);
+}
+
+TEST_F(MapTest, ToolsActAtTheMapPointOfAMarker) {
+    const auto unit = add_marked("{1}", 500, 500);
+    main.checking_range = true;
+    mouse_down(program, {TargetKind::unit, 1}, {left_button, 0, 508, 493});
+    EXPECT_EQ(main.shpAnchor[0].left, 508 - 3.5);
+    EXPECT_EQ(main.shpAnchor[0].top, 493 - 3.5);
+    EXPECT_EQ(unit->xcoord, 500);
+}
+
+TEST_F(MapTest, AbortedTransferSwitchesItsButtonOff) {
+    main.transferring_fe = main.cmdTransferFE.enabled = true;
+    platform.answers = {Answer::yes};
+    press(2000, 2000);
+    EXPECT_FALSE(main.cmdTransferFE.enabled);
+}
+
+TEST_F(MapTest, FirefanToolEndsEvenWhenNothingCanBeTurned) {
+    main.setting_firefan = true;
+    press(2000, 2000);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 91 when moving firefans."});
+    EXPECT_FALSE(main.setting_firefan);
+}
+
+namespace {
+
+class LabelDrag : public MapTest {
+  protected:
+    LabelDrag() {
+        auto label = std::make_shared<oLabels>();
+        label->ID = "{L}";
+        campaign.colLabels->add(label, label->ID);
+        put(main.lblUser.load(1), "{L}", 100);
+        auto shape = std::make_shared<oShapes>();
+        shape->ID = "{S}";
+        campaign.colShapes->add(shape, shape->ID);
+        put(main.lblShapeLabel.load(1), "{S}", 400);
+        MapShape& outline = main.shpShape.load(1);
+        outline.width = 200;
+        outline.height = 100;
+    }
+
+    void put(MapLabel& label, const std::string& tag, double place) {
+        label.tag = tag;
+        label.visible = true;
+        label.left = label.top = place;
+        label.width = 60;
+        label.height = 20;
+        main.bring_to_front(label);
+    }
+};
+
+} // namespace
+
+TEST_F(LabelDrag, ShiftDragMovesALabelByWhereItWasGrabbed) {
+    press(110, 105);
+    EXPECT_FALSE(main.dragging) << "a plain press never drags";
+    press(110, 105, left_button, shift_key);
+    ASSERT_TRUE(main.dragging);
+    drag_over(program, DropSite::map, 205, 87);
+    EXPECT_EQ(main.lblUIeastcoord.caption, "01.50") << "of the centre";
+    main.picMap.marked = false;
+    drag_drop(program, DropSite::map, 710, 805);
+    EXPECT_EQ(main.lblUser(1).left, 700);
+    EXPECT_EQ(main.lblUser(1).top, 800);
+    EXPECT_EQ(campaign.colLabels->at(1)->xcoord, 700);
+    EXPECT_EQ(campaign.colLabels->at(1)->ycoord, 800);
+    EXPECT_TRUE(main.picMap.marked);
+    EXPECT_FALSE(main.dragging);
+}
+
+TEST_F(LabelDrag, CaptionTakesItsShapeAlong) {
+    press(410, 405, left_button, shift_key);
+    drag_drop(program, DropSite::map, 1010, 1005);
+    EXPECT_EQ(main.lblShapeLabel(1).left, 1000);
+    EXPECT_EQ(campaign.colShapes->at(1)->xcoord, 1030);
+    EXPECT_EQ(campaign.colShapes->at(1)->ycoord, 1010);
+    EXPECT_EQ(main.shpShape(1).left, 1030 - 100);
+    EXPECT_EQ(main.shpShape(1).top, 1010 - 50);
+    EXPECT_GT(main.lblShapeLabel(1).depth, main.shpShape(1).depth);
+}
+
+TEST_F(LabelDrag, TrayAndOverviewTakeNoLabels) {
+    press(110, 105, left_button, shift_key);
+    drag_drop(program, DropSite::tray, 10, 10);
+    press(110, 105, left_button, shift_key);
+    drag_drop(program, DropSite::overview, 10, 10);
+    EXPECT_EQ(main.lblUser(1).left, 100);
+    EXPECT_TRUE(platform.texts().empty());
+}
+
+TEST_F(LabelDrag, ReleaseOverALabelLeavesNoBandAndSwallowsNoLaterRelease) {
+    const auto unit = add_marked("{1}", 2000, 2000);
+    press(110, 105);
+    EXPECT_TRUE(main.shpRubberband.visible);
+    control_MouseUp(program, {TargetKind::label, 1});
+    EXPECT_FALSE(main.shpRubberband.visible);
+    press_unit(*unit);
+    press_unit(*add_marked("{2}", 2100, 2000), left_button, ctrl_key);
+    press(110, 105, right_button);
+    EXPECT_TRUE(main.map_popup_shown);
+    control_MouseUp(program, {TargetKind::shape_label, 1});
+    EXPECT_FALSE(main.map_popup_shown);
 }

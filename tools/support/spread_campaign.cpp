@@ -1,4 +1,4 @@
-#include "benchmarks/spread_campaign.h"
+#include "tools/support/spread_campaign.h"
 
 #include "core/numbers.h"
 #include "core/unit_place.h"
@@ -32,8 +32,8 @@ bool is_near(const Bounds& area, Point place, double distance) {
 /// Even places over the map, and small distances around them.
 class Places {
   public:
-    explicit Places(const Program& program)
-        : right(static_cast<int>(program.main.picMap.width) - 1),
+    Places(const Program& program, unsigned seed)
+        : random(seed), right(static_cast<int>(program.main.picMap.width) - 1),
           bottom(static_cast<int>(program.main.picMap.height) - 1) {}
 
     int x() { return number(0, right); }
@@ -45,7 +45,7 @@ class Places {
     }
 
   private:
-    std::mt19937 random{1942};
+    std::mt19937 random;
     int right;
     int bottom;
 };
@@ -158,7 +158,7 @@ void show_everything(DisplayOptions& options) {
 } // namespace
 
 void spread_over_map(Program& program, const Spread& spread, const Bounds& area) {
-    Places places(program);
+    Places places(program, spread.seed);
     program.campaign.colForceElements.drop();
     add_gun_to_catalogue(program);
     for (int i = 0; i < spread.units; ++i) add_unit(program, places, area, i);

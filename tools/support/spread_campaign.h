@@ -8,6 +8,7 @@ struct Spread {
     int lines;
     int polygons;
     int missions;
+    unsigned seed = 1942;
 };
 
 /// Puts units with names, zones, fans, waypoints and areas, lines, polygons and fire missions on the map,
