@@ -501,3 +501,113 @@ TEST(RecordReader, AbsoluteSymbolOfTheOldestVersionIsCutAtTheFirstPlace) {
     FieldReader elsewhere(out.bytes());
     EXPECT_EQ(read_unit(elsewhere, "beta 4", duplicate)->symbol, unit.symbol);
 }
+
+TEST_F(MainFileReader, EachFieldOfTheClockCountsAlone) {
+    const std::vector<std::string> clocks{
+        "\"1943\",\"November\",\"25\",\"07\",\"00\"", "\"1942\",\"December\",\"25\",\"07\",\"00\"",
+        "\"1942\",\"November\",\"26\",\"07\",\"00\"", "\"1942\",\"November\",\"25\",\"08\",\"00\"",
+        "\"1942\",\"November\",\"25\",\"07\",\"01\""};
+    for (const std::string& clock : clocks) {
+        platform.messages.clear();
+        platform.answers = {Answer::no};
+        load(file(zeros(6), clock));
+        EXPECT_EQ(platform.messages.size(), 1U) << clock;
+        EXPECT_EQ(platform.messages.at(0).title, "Tolvane ][");
+    }
+}
+
+TEST_F(MainFileReader, PresentUnitIsAskedForOnlyWhenItsListsAreRead) {
+    add_unit("{U}");
+    oUnits with_lists = unit("{U}");
+    with_lists.children->add(std::make_shared<oChildren>(oChildren{"{A}", "a"}), "{A}");
+    std::string bytes = units({with_lists});
+    load(bytes.substr(0, bytes.find("{A}")));
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 62 when loading data!"});
+    platform.messages.clear();
+    platform.answers = {Answer::no};
+    load(units({with_lists, unit("{V}")}));
+    EXPECT_EQ(platform.messages.size(), 1U) << "the list of the unit that was dropped is passed";
+    EXPECT_TRUE(program.campaign.colUnits->contains("{V}"));
+    EXPECT_TRUE(program.campaign.colUnits->item("{U}")->children.empty());
+}
+
+TEST_F(MainFileReader, RenumberingThatFailsIsToldAndTheLoadGoesOn) {
+    const auto dangling = add_unit("{U}");
+    add_child(*dangling, "{gone}");
+    load(units({unit("{U}"), unit("{V}")}));
+    EXPECT_EQ(platform.texts(),
+              (std::vector<std::string>{id_question("unit {U}"), "Error 5 when assigning new IDs."}));
+    EXPECT_EQ(platform.messages[0].title, "Tolvane ][");
+    EXPECT_TRUE(program.campaign.colUnits->contains("{V}"));
+}
+
+TEST_F(MainFileReader, BetaFiveEndsWellBehindAFirstPolygonThatIsPresent) {
+    oPolygons polygon;
+    polygon.ID = "{P}";
+    auto present = std::make_shared<oPolygons>(polygon);
+    present->notes = "present";
+    program.campaign.colPolygons->add(present, "{P}");
+    const std::string polygons = section(std::vector<oPolygons>{polygon, polygon}, write_polygon);
+    std::string bytes = file(zeros(4) + polygons + "1\r\n");
+    bytes.replace(1, 3, "beta 5");
+    load(bytes);
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(program.campaign.colPolygons.count(), 1U);
+    EXPECT_EQ(program.campaign.colPolygons->at(1)->notes, "present");
+    EXPECT_TRUE(program.campaign.colFireMissions.empty());
+}
+
+TEST_F(MainFileReader, NegativeCountsInsideARecordAreNone) {
+    std::string bytes = units({unit("{U}")});
+    // The counts of a unit's lists stand behind its own fields, each on a line of its own.
+    const std::size_t first = bytes.find("\r\n0\r\n", bytes.find("{U}"));
+    ASSERT_NE(first, std::string::npos);
+    bytes.replace(first + 2, 1, "-3");
+    load(bytes);
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(program.campaign.colUnits.count(), 1U);
+}
+
+TEST_F(MainFileReader, VerticesBeyondTheRangeOfCountsAreAnOverflow) {
+    oPolygons polygon;
+    polygon.ID = "{P}";
+    std::string bytes = file(zeros(4) + section(std::vector<oPolygons>{polygon}, write_polygon) + "0\r\n");
+    const std::size_t count = bytes.rfind("\r\n0\r\n0\r\n");
+    ASSERT_NE(count, std::string::npos);
+    bytes.replace(count + 2, 1, "32768");
+    load(bytes);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 6 when loading data!"});
+}
+
+TEST_F(MainFileReader, WhatStandsBehindTheLastFieldIsNeverLookedAt) {
+    load(file(zeros(6)) + "more text, \"and quotes");
+    EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(MainFileReader, FontChoiceChangesNameAndSizeOnlyAndCancelHoldsForLaterLabels) {
+    platform.missing_fonts = {"Fraktur"};
+    platform.chosen_font = Font{"Times", 14, false, true, true, true};
+    oLabels missing = label("{1}");
+    missing.font_name = "Fraktur";
+    load(labels({missing}));
+    const auto& record = *program.campaign.colLabels->item("{1}");
+    EXPECT_TRUE(record.font_bold);
+    EXPECT_FALSE(record.font_italic || record.font_underline || record.font_strikethru);
+    program.campaign.colLabels.drop();
+    platform.messages.clear();
+    platform.font_dialogs.clear();
+    platform.chosen_font.reset();
+    oLabels second = missing;
+    second.ID = "{2}";
+    load(labels({missing, second}));
+    EXPECT_EQ(platform.font_dialogs.size(), 1U);
+    EXPECT_EQ(program.campaign.colLabels->item("{2}")->font_name, "Arial");
+}
+
+TEST_F(MainFileReader, LastIndexThereIsStillGetsItsControl) {
+    program.campaign.gNextLabelIndex = 32767;
+    load(labels({label("{1}")}));
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 6 when loading data!"});
+    EXPECT_TRUE(program.main.lblUser(32767).visible);
+    EXPECT_EQ(program.campaign.gNextLabelIndex, 32767);
+}

@@ -330,3 +330,74 @@ TEST_F(MainFileWriter, PointerIsTheHourglassWhileWritingOnly) {
     EXPECT_LT(std::find(log.begin(), log.end(), "file dialog"), on);
     EXPECT_NE(std::find(on, log.end(), "hourglass off"), log.end());
 }
+
+namespace {
+
+/// A disk that breaks after so many writes.
+class BreakingFile : public OutputFile {
+  public:
+    BreakingFile(std::string& written, int writes) : written(written), writes(writes) {}
+    void write(std::string_view bytes) override {
+        if (writes-- == 0) throw Failure{failure::device_error};
+        written += bytes;
+    }
+    void close() override {}
+
+  private:
+    std::string& written;
+    int writes;
+};
+
+class BreakingPlatform : public ScriptedPlatform {
+  public:
+    std::unique_ptr<OutputFile> open_for_output(const std::string& /*path*/) override {
+        return std::make_unique<BreakingFile>(written, 1);
+    }
+    std::string written;
+};
+
+} // namespace
+
+TEST_F(MainFileWriter, DiskThatBreaksInTheMiddleIsToldAndWhatWasWrittenStays) {
+    BreakingPlatform breaking;
+    Program large(breaking, paint_order(), tool_order());
+    for (int i = 0; i < 5000; ++i) {
+        auto unit = std::make_shared<oUnits>();
+        unit->ID = std::to_string(i);
+        unit->name = std::string(100, 'n');
+        large.campaign.colUnits->add(unit, unit->ID);
+    }
+    breaking.chosen_files = {"campaign.tvn"};
+    cmdSave_Click(large);
+    EXPECT_EQ(breaking.texts(), std::vector<std::string>{"Error 57 when saving data."});
+    EXPECT_FALSE(breaking.written.empty());
+    EXPECT_EQ(large.campaign.colUnits.count(), 5000U);
+}
+
+TEST_F(MainFileWriter, QuotesInFieldsThatAreNotReplacedStayRaw) {
+    const auto unit = add_unit("{U}");
+    auto element = std::make_shared<oUnitForceElements>();
+    element->ID = "{F}";
+    element->experience = "Reg\"ular";
+    element->free_text = "free \"text";
+    unit->force_elements->add(element, element->ID);
+    auto line = std::make_shared<oLines>();
+    line->boundry_size = "Cor\"ps";
+    line->colCoords->add(std::make_shared<oCoordinates>());
+    program.campaign.colLines->add(line);
+    auto shape = std::make_shared<oShapes>();
+    shape->ID = "{S}";
+    shape->notesfont = "Ari\"al";
+    program.campaign.colShapes->add(shape, shape->ID);
+    auto mission = std::make_shared<oFireMission>();
+    mission->ID = "{M}";
+    mission->assigned_to = "un\"it";
+    mission->numbtarget_id = "A\"1";
+    mission->affiliation = "All\"ied";
+    mission->end_month = "Nov\"ember";
+    program.campaign.colFireMissions->add(mission, mission->ID);
+    const std::string bytes = save();
+    for (const char* text :
+         {"Reg\"ular", "free \"text", "Cor\"ps", "Ari\"al", "un\"it", "A\"1", "All\"ied", "Nov\"ember"})
+        EXPECT_NE(bytes.find(text), std::string::npos) << text;
+}
