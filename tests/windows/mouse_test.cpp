@@ -1,0 +1,178 @@
+#include "tests/windows/desktop.h"
+
+#include "core/identity.h"
+#include "mapview/unit_info.h"
+#include "mapview/unit_marker.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRadioButton>
+#include <QScrollBar>
+
+namespace {
+
+/// The mouse in the real main window, with two units on the map.
+class Mouse : public testing::Test {
+  protected:
+    Mouse() {
+        desktop.start();
+        first = add_unit("{1}", 300);
+        second = add_unit("{2}", 500);
+        main().picMap.Refresh();
+        map = desktop.control("picMapwindow");
+        // The size that the map needs is there once the window has been laid out.
+        QTest::qWait(20);
+    }
+
+    frmMain& main() { return desktop.program.main; }
+    Campaign& campaign() { return desktop.program.campaign; }
+
+    std::shared_ptr<oUnits> add_unit(const std::string& id, std::int16_t x) {
+        auto unit = std::make_shared<oUnits>();
+        unit->ID = id;
+        unit->symbol = "\\data\\forces\\allied forces\\Rifle Company.gif";
+        unit->xcoord = x;
+        unit->ycoord = 300;
+        campaign().colUnits->add(unit, id);
+        unit->img_index = campaign().gNextUnitIndex;
+        make_unit_marker(desktop.program, *unit);
+        return unit;
+    }
+
+    static QPoint over(const oUnits& unit) { return {unit.xcoord + 2, unit.ycoord + 2}; }
+
+    void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons,
+              Qt::KeyboardModifiers keys = {}) const {
+        QMouseEvent event(type, at, map->mapToGlobal(at), button, buttons, keys);
+        QApplication::sendEvent(map, &event);
+    }
+
+    Desktop desktop;
+    QWidget* map = nullptr;
+    std::shared_ptr<oUnits> first;
+    std::shared_ptr<oUnits> second;
+};
+
+} // namespace
+
+TEST_F(Mouse, MessageDuringAPressEndsTheDragThatItBegan) {
+    first->children->add(std::make_shared<oChildren>(oChildren{"{gone}", ""}), "{gone}");
+    desktop.with_dialog(
+        [&] {
+            send(QEvent::MouseButtonPress, over(*first), Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+        },
+        [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
+    EXPECT_FALSE(main().dragging);
+    send(QEvent::MouseButtonRelease, QPointF(700, 400), Qt::LeftButton, Qt::NoButton);
+    send(QEvent::MouseMove, QPointF(600, 400), Qt::NoButton, Qt::NoButton);
+    QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(650, 450));
+    EXPECT_EQ(first->xcoord, 300) << "nothing was dragged";
+    EXPECT_FALSE(main().shpRubberband.visible);
+}
+
+TEST_F(Mouse, MenuOpenedDuringADragEndsIt) {
+    send(QEvent::MouseButtonPress, over(*first), Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_TRUE(main().dragging);
+    send(QEvent::MouseButtonPress, over(*first), Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_FALSE(main().dragging);
+    QApplication::activePopupWidget()->close();
+    QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(650, 450));
+    EXPECT_EQ(first->xcoord, 300);
+}
+
+TEST_F(Mouse, OnlyTheLeftReleaseDropsAndAMoveWithoutItEndsTheDrag) {
+    send(QEvent::MouseButtonPress, over(*first), Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+    send(QEvent::MouseButtonRelease, QPointF(650, 450), Qt::MiddleButton, Qt::LeftButton);
+    EXPECT_TRUE(main().dragging);
+    EXPECT_EQ(first->xcoord, 300);
+    send(QEvent::MouseMove, QPointF(650, 450), Qt::NoButton, Qt::NoButton);
+    EXPECT_FALSE(main().dragging);
+    send(QEvent::MouseButtonRelease, QPointF(650, 450), Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(first->xcoord, 300);
+}
+
+TEST_F(Mouse, ButtonsBesideTheThreeAreNotTheRules) {
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    ASSERT_TRUE(main().picUnitInfo.visible);
+    QTest::mouseClick(map, Qt::BackButton, {}, QPoint(650, 450));
+    EXPECT_TRUE(main().picUnitInfo.visible);
+}
+
+TEST_F(Mouse, KeysScrollWhileThePointerRestsOnTheMenuBar) {
+    auto* const window = dynamic_cast<QMainWindow*>(desktop.window());
+    QMenuBar* const bar = window->menuBar();
+    const QPointF title = bar->actionGeometry(bar->actions().at(1)).center();
+    QMouseEvent hover(QEvent::MouseMove, title, bar->mapToGlobal(title), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(bar, &hover);
+    ASSERT_NE(bar->activeAction(), nullptr);
+    desktop.key(Qt::Key_Down);
+    EXPECT_EQ(main().scrlVMap.value, 40);
+}
+
+TEST_F(Mouse, DropOnAPanelThatLiesOverTheTrayIsNone) {
+    desktop.click("cmdUnitTray");
+    QWidget* const tray = desktop.control("picUnitTray");
+    ASSERT_TRUE(tray->isVisible());
+    desktop.click("cmdDrawLines");
+    ASSERT_TRUE(tray->isVisible());
+    send(QEvent::MouseButtonPress, over(*first), Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+    const QPoint in_tray = map->mapFromGlobal(tray->mapToGlobal(QPoint(100, 100)));
+    send(QEvent::MouseButtonRelease, in_tray, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(main().imgUnit(1).container, Container::map);
+    EXPECT_EQ(first->xcoord, 300);
+}
+
+TEST_F(Mouse, MoveOverAMarkerInTheTrayShowsItsCoordinates) {
+    desktop.click("cmdUnitTray");
+    QWidget* const tray = desktop.control("picUnitTray");
+    main().imgUnit(1).container = Container::tray;
+    main().imgUnit(1).left = main().imgUnit(1).top = 50;
+    QMouseEvent move(QEvent::MouseMove, QPointF(60, 62), tray->mapToGlobal(QPointF(60, 62)), Qt::NoButton,
+                     Qt::NoButton, {});
+    QApplication::sendEvent(tray, &move);
+    EXPECT_EQ(main().unit_grab_x, 10);
+    EXPECT_EQ(main().unit_grab_y, 12);
+    EXPECT_NE(main().sbarMap.panels[0], "");
+}
+
+TEST_F(Mouse, AnotherPressOnAnElementRunsItsClickAgain) {
+    auto element = std::make_shared<oUnitForceElements>();
+    element->ID = "{" + std::string(36, 'E') + "}";
+    element->Index = 999;
+    first->force_elements->add(element, element->ID);
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    auto* const list = desktop.control<QListView>("lstUIfe");
+    const QPoint row = list->visualRect(list->model()->index(0, 0)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
+    ASSERT_EQ(campaign().curUFE, element);
+    campaign().curUFE = nullptr;
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(campaign().curUFE, element);
+}
+
+TEST_F(Mouse, BoundarySizeStaysAsItIsTyped) {
+    desktop.click("cmdDrawLines");
+    desktop.click("chkBoundry");
+    auto* const box = desktop.control<QComboBox>("cboBoundrySize");
+    box->setEditText("");
+    QTest::keyClicks(box->lineEdit(), "corps");
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(main().cboBoundrySize.text, "corps");
+    EXPECT_EQ(box->count(), 6);
+}
+
+TEST_F(Mouse, OptionThatIsOnChangesNothing) {
+    desktop.click("cmdDrawLines");
+    desktop.click("cmdStartDrawLines");
+    ASSERT_TRUE(main().drawing_lines);
+    const bool single = main().optSingleLine.value;
+    desktop.click(single ? "optSingleLine" : "optPolyline");
+    EXPECT_TRUE(main().drawing_lines);
+    EXPECT_TRUE(desktop.control<QRadioButton>(single ? "optSingleLine" : "optPolyline")->isChecked());
+    desktop.click(single ? "optPolyline" : "optSingleLine");
+    EXPECT_FALSE(main().drawing_lines) << "another one ends the drawing";
+}
