@@ -23,8 +23,7 @@ class Mouse : public testing::Test {
         second = add_unit("{2}", 500);
         main().picMap.Refresh();
         map = desktop.control("picMapwindow");
-        // The size that the map needs is there once the window has been laid out.
-        QTest::qWait(20);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return map->width() > 700 && map->height() > 500; }));
     }
 
     frmMain& main() { return desktop.program.main; }
