@@ -8,6 +8,7 @@
 #include "operations/range_tools.h"
 #include "persistence/main_file_reader.h"
 #include "persistence/main_file_writer.h"
+#include "persistence/unit_list.h"
 #include "program/about.h"
 #include "program/exit.h"
 
@@ -24,11 +25,14 @@ constexpr std::array<MenuRow, 31> rows{{
     {"&File", "Save main...", "mnuSave", &Main::mnuSave, mnuSave_Click},
     {"&File", "Load main...", "mnuLoad", &Main::mnuLoad, mnuLoad_Click},
     {"&File", "Save units", "mnuSaveUnits", &Main::mnuSaveUnits, nullptr},
-    {"mnuSaveUnits", "Save Allied units...", "mnuSaveAlliedUnits", &Main::mnuSaveAlliedUnits, nullptr},
-    {"mnuSaveUnits", "Save Axis units...", "mnuSaveAxisUnits", &Main::mnuSaveAxisUnits, nullptr},
-    {"mnuSaveUnits", "Save all units", "mnuSaveAllUnits", &Main::mnuSaveAllUnits, nullptr},
-    {"mnuSaveUnits", "Save selected units...", "mnuSaveSelectedUnits", &Main::mnuSaveSelectedUnits, nullptr},
-    {"&File", "Load units...", "mnuLoadUnits", &Main::mnuLoadUnits, nullptr},
+    {"mnuSaveUnits", "Save Allied units...", "mnuSaveAlliedUnits", &Main::mnuSaveAlliedUnits,
+     mnuSaveAlliedUnits_Click},
+    {"mnuSaveUnits", "Save Axis units...", "mnuSaveAxisUnits", &Main::mnuSaveAxisUnits,
+     mnuSaveAxisUnits_Click},
+    {"mnuSaveUnits", "Save all units", "mnuSaveAllUnits", &Main::mnuSaveAllUnits, mnuSaveAllUnits_Click},
+    {"mnuSaveUnits", "Save selected units...", "mnuSaveSelectedUnits", &Main::mnuSaveSelectedUnits,
+     mnuSaveSelectedUnits_Click},
+    {"&File", "Load units...", "mnuLoadUnits", &Main::mnuLoadUnits, mnuLoadUnits_Click},
     {"&File", "Exit", "mnuExit", &Main::mnuExit, mnuExit_Click},
     {"&Edit", "Delete everything...", "mnuDeleteAll", &Main::mnuDeleteAll, nullptr},
     {"&Edit", "Delete selected units...", "mnuDeleteSelected", &Main::mnuDeleteSelected, nullptr},

@@ -4,9 +4,8 @@
 
 /// The menu entries and buttons whose command does not exist yet: they are shown disabled. This list must
 /// shrink to nothing.
-inline constexpr std::array<const char*, 33> not_yet_built{
-    // Unit lists and report
-    "mnuSaveAlliedUnits", "mnuSaveAxisUnits", "mnuSaveAllUnits", "mnuSaveSelectedUnits", "mnuLoadUnits",
+inline constexpr std::array<const char*, 28> not_yet_built{
+    // The report of units
     "mnuListUnits",
     // Units and their force elements
     "mnuDeleteAll", "mnuDeleteSelected", "mnuUP_delete", "mnuUP_edit", "mnuUP_delete_all",

@@ -177,9 +177,11 @@ TEST_F(MainWindow, SecondButtonTakesNothingFromTheFirst) {
     marker.visible = true;
     marker.left = marker.top = 200;
     marker.width = marker.height = 30;
-    QTest::mousePress(map, Qt::RightButton, {}, QPoint(302, 302));
-    const QPoint over_marker(212, 212);
-    const QPointF at(over_marker);
+    const QPointF before(302, 302);
+    QMouseEvent right_press(QEvent::MouseButtonPress, before, map->mapToGlobal(before), Qt::RightButton,
+                            Qt::RightButton, {});
+    QApplication::sendEvent(map, &right_press);
+    const QPointF at(212, 212); // over the marker
     QMouseEvent press(QEvent::MouseButtonPress, at, map->mapToGlobal(at), Qt::LeftButton,
                       Qt::LeftButton | Qt::RightButton, {});
     QApplication::sendEvent(map, &press);

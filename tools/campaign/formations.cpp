@@ -1,5 +1,7 @@
 #include "tools/campaign/formations.h"
 
+#include "core/files.h"
+
 #include <algorithm>
 #include <fstream>
 #include <iostream>
@@ -39,7 +41,7 @@ Lines read_lines(const std::string& file) {
     std::ifstream in(file);
     Lines lines;
     for (std::string text; std::getline(in, text);) {
-        const std::string content = trimmed(text);
+        const std::string content = trimmed(files::from_disk_name(text)); // the catalogue's characters
         if (content.empty() || content.front() == '#') continue;
         lines.push_back({text.find_first_not_of(' '), content});
     }

@@ -1,190 +1,30 @@
 #include "tools/campaign/plans.h"
 
-#include "core/identity.h"
-#include "core/numbers.h"
-#include "mapview/label_control.h"
-#include "mapview/shape_control.h"
-
-#include <array>
-#include <cmath>
-#include <utility>
-#include <vector>
+#include "tools/campaign/drawing.h"
 
 namespace {
 
-using Kilometres = std::pair<double, double>; // east, north
+constexpr std::int32_t red = 0x0000C0;
+constexpr std::int32_t blue = 0xC00000;
+constexpr std::int32_t pale_red = 0xC8C8FF;
+constexpr std::int32_t pale_blue = 0xFFE0C8;
 
-std::int32_t x_of(double east) { return to_long(east * 150); }
-std::int32_t y_of(double north) { return to_long((40 - north) * 150 + 102); }
-
-void add_vertices(Collection<oCoordinates>& vertices, const std::vector<Kilometres>& points) {
-    for (const auto& [east, north] : points)
-        vertices.add(std::make_shared<oCoordinates>(oCoordinates{x_of(east), y_of(north)}));
-}
-
-void line(Program& program, std::int32_t colour, int style, int width, const std::string& boundary,
-          const std::vector<Kilometres>& points) {
-    auto made = std::make_shared<oLines>();
-    made->linecolor = colour;
-    made->linestyle = static_cast<std::int16_t>(style);
-    made->linewidth = static_cast<std::int16_t>(width);
-    made->is_polyline = points.size() > 2;
-    made->is_boundry = !boundary.empty();
-    made->boundry_size = boundary.empty() ? "Battalion" : boundary;
-    add_vertices(*made->colCoords, points);
-    program.campaign.colLines->add(made);
-}
-
-void objective(Program& program, const std::string& name, std::int32_t colour,
-               const std::vector<Kilometres>& points) {
-    auto made = std::make_shared<oPolygons>();
-    made->ID = new_guid(program.platform);
-    made->bordercolor = 0x0000C0;
-    made->borderwidth = 2;
-    made->fillcolor = colour;
-    made->drawmode = 9;
-    made->notes = name;
-    made->fontcolor = 0x000080;
-    add_vertices(*made->coordinates, points);
-    program.campaign.colPolygons->add(made, made->ID);
-}
-
-void label(Program& program, const std::string& text, Kilometres at, int size, std::int32_t colour) {
-    auto made = std::make_shared<oLabels>();
-    made->ID = new_guid(program.platform);
-    made->xcoord = to_int16(x_of(at.first));
-    made->ycoord = to_int16(y_of(at.second));
-    made->text = text;
-    made->font_name = "Arial";
-    made->font_color = colour;
-    made->font_bold = true;
-    made->font_size = static_cast<std::int16_t>(size);
-    made->backcolor = 0xE1F1F6;
-    made->borderstyle = 1;
-    made->backstyle = 1;
-    program.campaign.colLabels->add(made, made->ID);
-    make_label_control(program, *made);
-}
-
-void shape(Program& program, const std::string& notes, Kilometres at, int kind, int width, int height,
-           std::int32_t fill) {
-    auto made = std::make_shared<oShapes>();
-    made->ID = new_guid(program.platform);
-    made->shape_index = program.campaign.gNextShapeIndex;
-    made->xcoord = to_int16(x_of(at.first));
-    made->ycoord = to_int16(y_of(at.second));
-    made->bordercolor = 0x000000;
-    made->borderwidth = 1;
-    made->fillcolor = fill;
-    made->width = static_cast<std::int16_t>(width);
-    made->height = static_cast<std::int16_t>(height);
-    made->notes = notes;
-    made->notescolor = 0x000000;
-    made->notesfont = "Arial";
-    made->notesfontsize = 9;
-    made->notesfontbold = true;
-    made->drawmode = 9;
-    made->shape = static_cast<std::int16_t>(kind);
-    program.campaign.colShapes->add(made, made->ID);
-    make_shape_controls(program, *made);
-}
-
-void mission(Program& program, const std::string& notes, int mission_class, int type, int pattern,
-             Kilometres at, const std::string& affiliation) {
-    auto made = std::make_shared<oFireMission>();
-    made->ID = new_guid(program.platform);
-    made->notes = notes;
-    made->missionclass = static_cast<std::int16_t>(mission_class);
-    made->missiontype = static_cast<std::int16_t>(type);
-    made->start_year = made->end_year = "1942";
-    made->start_month = made->end_month = "November";
-    made->start_day = made->end_day = "25";
-    made->start_hour = "07";
-    made->start_minute = "30";
-    made->end_hour = "08";
-    made->end_minute = "10";
-    made->numbtarget_id = type >= 3 ? "K" + std::to_string(110 + type) : "";
-    made->pattern = static_cast<std::int16_t>(pattern);
-    made->line_length = static_cast<std::int16_t>(pattern == 4 ? 800 : 0);
-    made->xcoord = to_int16(x_of(at.first));
-    made->ycoord = to_int16(y_of(at.second));
-    made->affiliation = affiliation;
-    made->rate = 4;
-    made->shells = 120;
-    program.campaign.colFireMissions->add(made, made->ID);
-}
-
-std::string two_digits(int value) { return format_fixed(value, 2, 0); }
-
-/// A march along the points at this speed in km/h, from the campaign's first hour on.
-void march(Program& program, const std::string& name, double speed, const std::vector<Kilometres>& points,
-           const std::string& notes) {
-    for (const auto& unit : *program.campaign.colUnits) {
-        if (unit->name != name) continue;
-        double x = unit->xcoord;
-        double y = unit->ycoord;
-        int minute = 7 * 60;
-        for (const auto& [east, north] : points) {
-            auto leg = std::make_shared<oWaypoint>();
-            leg->ID = new_guid(program.platform);
-            leg->X = static_cast<float>(x_of(east));
-            leg->Y = static_cast<float>(y_of(north));
-            const double a = round_half_even(std::abs(x - leg->X) * 100 / 150);
-            const double b = round_half_even(std::abs(y - leg->Y) * 100 / 150);
-            leg->range = to_int16(std::hypot(a, b) * 10);
-            leg->speed = speed;
-            leg->start_year = leg->end_year = "1942";
-            leg->start_month = leg->end_month = "November";
-            leg->start_day = two_digits(25 + minute / 1440);
-            leg->start_hour = two_digits(minute / 60 % 24);
-            leg->start_minute = two_digits(minute % 60);
-            minute += to_int16(leg->range / (speed * 1000 / 60));
-            leg->end_day = two_digits(25 + minute / 1440);
-            leg->end_hour = two_digits(minute / 60 % 24);
-            leg->end_minute = two_digits(minute % 60);
-            leg->notes = notes;
-            unit->waypoints->add(leg, leg->ID);
-            x = leg->X;
-            y = leg->Y;
-        }
-    }
-}
-
-/// An area of operations around the unit: a rectangle of kilometres, turned to the unit's front.
-void area(Program& program, const std::string& name, double width, double depth, double facing) {
-    for (const auto& unit : *program.campaign.colUnits) {
-        if (unit->name != name) continue;
-        const double angle = facing * 3.14159265 / 180;
-        constexpr std::array<std::pair<double, double>, 4> corners{
-            {{-0.5, -0.35}, {0.5, -0.35}, {0.5, 0.65}, {-0.5, 0.65}}};
-        for (const auto& [side, forward] : corners) {
-            const double across = side * width;
-            const double ahead = forward * depth;
-            const double east = ahead * std::sin(angle) + across * std::cos(angle);
-            const double north = ahead * std::cos(angle) - across * std::sin(angle);
-            unit->area_of_opeartion->add(
-                std::make_shared<oCoordinates>(oCoordinates{to_long(east * 150), to_long(-north * 150)}));
-        }
-    }
-}
-
-} // namespace
-
-void draw_plans(Program& program) {
-    constexpr std::int32_t red = 0x0000C0;
-    constexpr std::int32_t blue = 0xC00000;
+void draw_front(Program& program) {
     line(program, red, 1, 3, "",
-         {{3.4, 27.4},
+         {{0.4, 28.2},
+          {3.4, 27.4},
           {7.2, 27.1},
           {10.6, 25.6},
           {13.6, 24.6},
           {16.8, 22.8},
           {20.4, 20.8},
-          {24.3, 18.0},
-          {28.6, 17.2},
-          {33.4, 17.9}});
+          {24.3, 18.2},
+          {28.6, 17.4},
+          {33.4, 17.9},
+          {36.0, 18.6}});
     line(program, blue, 1, 3, "",
-         {{3.0, 26.4},
+         {{0.4, 27.2},
+          {3.0, 26.4},
           {7.0, 26.0},
           {10.2, 24.7},
           {13.1, 23.7},
@@ -192,22 +32,32 @@ void draw_plans(Program& program) {
           {19.9, 19.9},
           {23.8, 17.1},
           {28.4, 16.2},
-          {33.6, 16.9}});
-    line(program, red, 1, 2, "Division", {{17.6, 30.4}, {16.8, 22.8}});
-    line(program, blue, 1, 2, "Division", {{16.2, 22.0}, {15.4, 13.2}});
-    line(program, red, 1, 2, "Corps", {{28.2, 30.6}, {28.6, 17.2}});
-    line(program, 0x404040, 2, 1, "", {{9.0, 18.2}, {13.8, 15.6}, {18.9, 12.4}, {24.5, 9.4}});
-    objective(program, "Objective Kalmyk", 0x8080FF,
-              {{14.6, 22.9}, {16.9, 22.6}, {17.1, 20.9}, {15.0, 20.8}});
-    objective(program, "Objective Don", 0x8080FF, {{22.0, 15.2}, {24.8, 14.9}, {24.5, 12.9}, {21.8, 13.2}});
-    objective(program, "Reserve area", 0xFFC0A0, {{7.6, 14.0}, {10.6, 14.4}, {10.9, 11.8}, {7.9, 11.4}});
-    label(program, "Operation \"Polynya\"\n25 November 1942", {2.2, 38.4}, 16, red);
-    label(program, "Bridgehead North", {12.2, 27.6}, 11, red);
-    label(program, "Main line of resistance", {25.2, 15.7}, 11, blue);
-    label(program, "Group Hartwig", {6.4, 10.6}, 12, blue);
-    shape(program, "Depot 4", {29.6, 32.6}, 4, 90, 60, 0xC0FFFF);
+          {33.6, 16.9},
+          {36.0, 17.6}});
+    line(program, red, 1, 2, "Division", {{11.6, 31.4}, {10.6, 25.6}});
+    line(program, red, 1, 2, "Division", {{18.6, 28.6}, {16.8, 22.8}});
+    line(program, red, 1, 2, "Division", {{27.0, 24.8}, {26.4, 17.8}});
+    line(program, blue, 1, 2, "Division", {{7.0, 26.0}, {6.2, 18.4}});
+    line(program, blue, 1, 2, "Corps", {{14.6, 22.8}, {14.2, 15.2}});
+    line(program, blue, 1, 2, "Division", {{21.9, 18.5}, {21.2, 12.0}});
+    line(program, blue, 1, 2, "Division", {{28.4, 16.2}, {27.8, 10.2}});
+    line(program, 0x404040, 2, 1, "", {{5.4, 16.0}, {9.0, 15.2}, {13.8, 13.6}, {18.9, 11.4}, {24.5, 8.4}});
+}
+
+void draw_intentions(Program& program) {
+    objective(program, "Objective Heron", pale_red, {{14.6, 22.9}, {16.9, 22.6}, {17.1, 20.9}, {15.0, 20.8}});
+    objective(program, "Objective Elk", pale_red, {{22.6, 14.9}, {24.6, 14.7}, {24.4, 13.2}, {22.4, 13.4}});
+    objective(program, "Objective Crane", pale_red, {{6.0, 12.4}, {8.4, 12.6}, {8.6, 10.8}, {6.2, 10.6}});
+    objective(program, "Reserve area", pale_blue, {{9.0, 11.4}, {13.4, 11.6}, {13.6, 7.2}, {9.2, 7.0}});
+    label(program, "Operation \"Polynya\"\n25 November 1942, 07:00", {1.0, 39.8}, 16, red);
+    label(program, "Bridgehead North", {9.0, 28.9}, 11, red);
+    label(program, "Bridgehead South", {27.8, 20.2}, 11, red);
+    label(program, "Main line of resistance", {29.6, 15.4}, 11, blue);
+    label(program, "Group Hartwig", {4.2, 15.4}, 12, blue);
+    shape(program, "Depot 4", {33.6, 34.6}, 4, 90, 60, 0xC0FFFF);
     shape(program, "Ford", {6.2, 30.4}, 3, 70, 70, 0xFFE0A0);
-    shape(program, "Minefield", {19.2, 20.0}, 2, 120, 60, 0xA0A0FF);
+    shape(program, "Minefield", {19.6, 19.2}, 2, 120, 60, 0xC8C8FF);
+    shape(program, "Minefield", {8.6, 24.6}, 2, 120, 60, 0xC8C8FF);
     mission(program, "Opening barrage", 0, 0, 3, {12.4, 23.4}, "Allied");
     mission(program, "Barrage on the ferry road", 0, 0, 4, {24.6, 16.2}, "Allied");
     mission(program, "Support of 1471st Regiment", 0, 1, 1, {20.9, 18.9}, "Allied");
@@ -216,11 +66,32 @@ void draw_plans(Program& program) {
     mission(program, "Assembly area", 0, 4, 0, {21.8, 24.2}, "Axis");
     mission(program, "Airstrike on the crossing", 1, 0, 0, {26.5, 14.2}, "Allied");
     mission(program, "Close support", 1, 1, 0, {17.2, 20.6}, "Axis");
-    march(program, "281st Tank Brigade", 15, {{24.2, 23.4}, {22.6, 19.6}, {21.4, 15.2}}, "Exploitation");
-    march(program, "93rd Cavalry Division", 7, {{29.2, 19.6}, {28.8, 15.0}}, "Cut the road");
-    march(program, "StuG Battalion 297", 18, {{11.2, 16.2}, {14.2, 19.4}}, "Counter-attack reserve");
-    area(program, "481st Rifle Division", 7.4, 8, 215);
-    area(program, "483rd Rifle Division", 7.4, 8, 215);
-    area(program, "513th Infantry Division", 7.4, 7, 35);
-    area(program, "27th Romanian Division", 7.4, 7, 35);
+    march(program, "281st Tank Brigade", 15, {{23.6, 24.4}, {22.6, 19.6}, {21.4, 15.2}}, "Exploitation");
+    march(program, "283rd Tank Brigade", 15, {{25.4, 23.0}, {24.6, 18.4}, {23.2, 13.8}}, "Exploitation");
+    march(program, "93rd Cavalry Division", 7, {{32.6, 22.0}, {30.2, 16.4}, {29.4, 11.0}}, "Cut the road");
+    march(program, "StuG Battalion 297", 18, {{11.2, 18.2}, {14.2, 21.4}}, "Counter-attack reserve");
+    march(program, "Panzer Regiment 49", 12, {{13.2, 14.4}, {16.4, 18.4}}, "Counter-attack");
+    area(program, "93rd Cavalry Division", 3.6, 3.2, 225);
+    area(program, "XXIX Corps", 2.4, 2.0, 35);
+}
+
+} // namespace
+
+void draw_operation(Program& program) {
+    draw_front(program);
+    draw_intentions(program);
+}
+
+void draw_lesson(Program& program) {
+    line(program, red, 1, 3, "", {{10.2, 27.2}, {12.6, 26.8}, {14.4, 25.9}, {16.2, 24.6}});
+    line(program, blue, 1, 3, "", {{9.8, 26.2}, {12.2, 25.7}, {14.0, 24.7}, {15.6, 23.6}});
+    line(program, red, 1, 2, "Regiment", {{16.6, 28.4}, {16.2, 24.6}});
+    line(program, blue, 1, 2, "Battalion", {{12.2, 25.7}, {11.6, 22.4}});
+    objective(program, "Objective Wren", pale_red, {{12.8, 25.0}, {14.2, 24.6}, {14.0, 23.4}, {12.8, 23.6}});
+    label(program, "First steps: across the bridge\n25 November 1942, 07:00", {10.2, 30.6}, 14, red);
+    shape(program, "Bridge", {13.4, 26.1}, 3, 60, 60, 0xFFE0A0);
+    mission(program, "Opening barrage", 0, 0, 1, {13.4, 24.4}, "Allied");
+    mission(program, "Bridge", 0, 3, 0, {13.4, 26.1}, "Axis");
+    march(program, "1461st Rifle Regiment", 3.2, {{13.4, 26.1}, {13.2, 23.6}}, "Follow the first wave");
+    area(program, "1461st Rifle Regiment", 4.2, 3.0, 205);
 }

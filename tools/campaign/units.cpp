@@ -10,6 +10,7 @@
 #include <cmath>
 #include <iostream>
 #include <numbers>
+#include <stdexcept>
 
 namespace {
 
@@ -151,11 +152,36 @@ void UnitMaker::tree(const Formation& formation, const std::string& name, const 
     row(rear, -depth * 0.55);
 }
 
+const std::vector<Holding>& UnitMaker::listed(const oUnits& unit) const {
+    static const std::vector<Holding> nothing;
+    for (const std::string& key :
+         {unit.nationality + " " + unit.unittype, unit.affiliation + " " + unit.unittype,
+          unit.affiliation + " " + unit.echelon}) {
+        const auto found = holdings.find(key);
+        if (found != holdings.end()) return found->second;
+    }
+    return nothing;
+}
+
+bool UnitMaker::is_guards(const oUnits& unit) const {
+    if (holds(unit.name, "Guards")) return true;
+    const auto headquarters = program.campaign.colUnits->find(unit.parent_ID);
+    return headquarters && is_guards(*headquarters);
+}
+
+std::string UnitMaker::experience(const oUnits& unit) const {
+    if (holds(unit.unittype, "Security") || holds(unit.unittype, "Construction")) return "Conscript";
+    if (holds(unit.unittype, "Alarm")) return "Green";
+    if (unit.nationality == "German" || is_guards(unit)) return "Veteran";
+    if (unit.nationality == "Italian") return "Regular";
+    return program.campaign.colUnits.count() % 3 == 0 ? "Regular" : "Green";
+}
+
 void UnitMaker::add_holdings(oUnits& unit) {
-    const auto listed = holdings.find(unit.affiliation + " " + unit.unittype);
-    if (listed == holdings.end()) return;
     const int side = unit.affiliation == "Allied" ? 0 : 1;
-    for (const Holding& holding : listed->second) {
+    const std::string skill = experience(unit);
+    for (const Holding& holding : listed(unit)) {
+        const std::size_t before = unit.force_elements.count();
         const auto& catalogue = *program.campaign.colForceElements;
         for (const auto& element : catalogue) {
             if (element->affiliation != side || element->description != holding.element) continue;
@@ -163,7 +189,7 @@ void UnitMaker::add_holdings(oUnits& unit) {
             held->ID = new_guid(program.platform);
             held->Index = element->ID;
             held->quantity = static_cast<std::int16_t>(holding.quantity);
-            held->experience = side == 0 ? "Regular" : unit.nationality == "German" ? "Veteran" : "Green";
+            held->experience = skill;
             // A tenth of a load, in rounds, for a squad: the sums of a whole army still fit 16 bits.
             held->ammo = std::min<std::int16_t>(element->max_ammo, 120);
             held->FireFanAngle = static_cast<std::int16_t>(side == 0 ? 215 : 35);
@@ -171,5 +197,7 @@ void UnitMaker::add_holdings(oUnits& unit) {
             held->MIA = static_cast<std::int16_t>(program.campaign.colUnits.count() % 9 == 0 ? 1 : 0);
             unit.force_elements->add(held, held->ID);
         }
+        if (unit.force_elements.count() == before)
+            throw std::runtime_error("no such element: " + holding.element);
     }
 }

@@ -21,6 +21,10 @@ class UnitMaker {
     void tree(const Formation& formation, const std::string& name, const Deployment& where,
               oUnits* headquarters);
     void add_holdings(oUnits& unit);
+    /// What such a unit holds: by its nation, else by its side, else as a headquarters of its echelon.
+    const std::vector<Holding>& listed(const oUnits& unit) const;
+    bool is_guards(const oUnits& unit) const;
+    std::string experience(const oUnits& unit) const;
 
     Program& program;
     const std::map<std::string, std::vector<Holding>>& holdings;
