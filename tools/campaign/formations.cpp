@@ -55,10 +55,6 @@ std::string ordinal(const std::string& number) {
     return number + (last == '1' ? "st" : last == '2' ? "nd" : "rd");
 }
 
-std::string without_hq(const std::string& type) {
-    return type.ends_with(" HQ") ? type.substr(0, type.size() - 3) : type;
-}
-
 class OrderOfBattle {
   public:
     explicit OrderOfBattle(const Lines& lines) {
@@ -128,8 +124,7 @@ class OrderOfBattle {
         if (text.starts_with("? ")) {
             text = text.substr(2);
             names.clear();
-            for (const std::string& number : numbers)
-                names.push_back(ordinal(number) + " " + without_hq(text));
+            for (const std::string& number : numbers) names.push_back(ordinal(number));
         } else if (const std::size_t times = text.find(" x "); times != std::string::npos) {
             names.assign(std::stoul(text.substr(0, times)), "");
             text = text.substr(times + 3);

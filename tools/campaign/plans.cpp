@@ -66,13 +66,13 @@ void draw_intentions(Program& program) {
     mission(program, "Assembly area", 0, 4, 0, {21.8, 24.2}, "Axis");
     mission(program, "Airstrike on the crossing", 1, 0, 0, {26.5, 14.2}, "Allied");
     mission(program, "Close support", 1, 1, 0, {17.2, 20.6}, "Axis");
-    march(program, "281st Tank Brigade", 15, {{23.6, 24.4}, {22.6, 19.6}, {21.4, 15.2}}, "Exploitation");
-    march(program, "283rd Tank Brigade", 15, {{25.4, 23.0}, {24.6, 18.4}, {23.2, 13.8}}, "Exploitation");
-    march(program, "93rd Cavalry Division", 7, {{32.6, 22.0}, {30.2, 16.4}, {29.4, 11.0}}, "Cut the road");
-    march(program, "StuG Battalion 297", 18, {{11.2, 18.2}, {14.2, 21.4}}, "Counter-attack reserve");
-    march(program, "Panzer Regiment 49", 12, {{13.2, 14.4}, {16.4, 18.4}}, "Counter-attack");
-    area(program, "93rd Cavalry Division", 3.6, 3.2, 225);
-    area(program, "XXIX Corps", 2.4, 2.0, 35);
+    march(program, "281st", 15, {{23.6, 24.4}, {22.6, 19.6}, {21.4, 15.2}}, "Exploitation");
+    march(program, "283rd", 15, {{25.4, 23.0}, {24.6, 18.4}, {23.2, 13.8}}, "Exploitation");
+    march(program, "93rd", 7, {{32.6, 22.0}, {30.2, 16.4}, {29.4, 11.0}}, "Cut the road");
+    march(program, "297th", 18, {{11.2, 18.2}, {14.2, 21.4}}, "Counter-attack reserve");
+    march(program, "49th", 12, {{13.2, 14.4}, {16.4, 18.4}}, "Counter-attack");
+    area(program, "93rd", 3.6, 3.2, 225);
+    area(program, "XXIX", 2.4, 2.0, 35);
 }
 
 } // namespace
@@ -92,6 +92,6 @@ void draw_lesson(Program& program) {
     shape(program, "Bridge", {13.4, 26.1}, 3, 60, 60, 0xFFE0A0);
     mission(program, "Opening barrage", 0, 0, 1, {13.4, 24.4}, "Allied");
     mission(program, "Bridge", 0, 3, 0, {13.4, 26.1}, "Axis");
-    march(program, "1461st Rifle Regiment", 3.2, {{13.4, 26.1}, {13.2, 23.6}}, "Follow the first wave");
-    area(program, "1461st Rifle Regiment", 4.2, 3.0, 205);
+    march(program, "1461st", 3.2, {{13.4, 26.1}, {13.2, 23.6}}, "Follow the first wave");
+    area(program, "1461st", 4.2, 3.0, 205);
 }
