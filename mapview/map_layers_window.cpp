@@ -25,7 +25,8 @@ void MapLayers::paint(const Program& program) {
     paint_in_strips(painted, [&](QPainter& painter, const QRectF& strip) {
         painter.translate(-painted_part.topLeft());
         const QRectF wanted = strip.translated(painted_part.topLeft());
-        painter.drawImage(wanted, picture->map, wanted);
+        // The whole part in each strip, which clips it: at a fractional scale pieces would leave seams.
+        painter.drawImage(painted_part.topLeft(), picture->map, painted_part);
         PainterSurface surface(painter);
         surface.wanted = {wanted.left(), wanted.top(), wanted.right(), wanted.bottom()};
         program.painting.map.replay(surface);

@@ -76,7 +76,9 @@ QWidget* UnitInfoView::identity() {
     QPushButton* const select =
         bind.button("cmdSelectHQ", "HQ", main.cmdSelectHQ, [this] { cmdSelectHQ_Click(program); });
     select->setToolTip("Select the unit's HQ");
-    select->setFixedWidth(29);
+    // As wide as its text in the user's font, and no wider: the name beside it needs the room.
+    constexpr int margins = 14;
+    select->setFixedWidth(select->fontMetrics().horizontalAdvance(select->text()) + margins);
     QLabel* const parent_name = bind.label("lblUIparentname", main.lblUIparentname);
     show_whole(parent_name);
     grid->addWidget(select, 1, 0);

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -144,6 +145,7 @@ QComboBox* ControlBinder::combo(const std::string& name, const std::string& acce
     auto* const box = named(new QComboBox(parent), name);
     box->setAccessibleName(to_qt(accessible_name));
     box->setEditable(true);
+    box->lineEdit()->setAccessibleName(to_qt(accessible_name));
     box->setCompleter(nullptr); // what is typed stays as it is typed
     box->setInsertPolicy(QComboBox::NoInsert);
     box->addItems(to_rows(twin.rows));

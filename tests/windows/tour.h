@@ -17,9 +17,14 @@ class Tour : public testing::Test {
     void leave_pictures_in(const char* suffix) {
         const QSize screen = QApplication::primaryScreen()->size();
         pictures = QString(TOUR_DIRECTORY) +
-                   QString("/%1x%2%3").arg(screen.width()).arg(screen.height()).arg(suffix);
+                   QString("/%1x%2%3%4").arg(screen.width()).arg(screen.height()).arg(suffix, scale_suffix());
         QDir(pictures).removeRecursively();
         QDir().mkpath(pictures);
+    }
+
+    static QString scale_suffix() {
+        const double scale = QApplication::primaryScreen()->devicePixelRatio();
+        return scale == 1 ? QString() : QString(" scaled by %1").arg(scale);
     }
 
     void picture(QWidget* of, const char* name) {
