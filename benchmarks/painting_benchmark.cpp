@@ -3,7 +3,6 @@
 #include "benchmarks/bare_figures.h"
 #include "benchmarks/graphics_scene.h"
 #include "benchmarks/ratios.h"
-#include "tools/support/spread_campaign.h"
 #include "mapview/map_mouse.h"
 #include "mapview/painting.h"
 #include "mapview/selection.h"
@@ -12,6 +11,7 @@
 #include "program/frmStart.h"
 #include "program/paint_order.h"
 #include "program/press_order.h"
+#include "tools/support/spread_campaign.h"
 #include "widgets/map_image.h"
 
 #include <QApplication>

@@ -3,30 +3,13 @@
 #include <array>
 #include <cmath>
 #include <optional>
-#include <span>
 
 namespace {
 
-// Strokes and gaps in turn, pixels.
 constexpr std::array<double, 2> dash{18, 6};
 constexpr std::array<double, 2> dot{3, 3};
 constexpr std::array<double, 4> dash_dot{9, 6, 3, 6};
 constexpr std::array<double, 6> dash_dot_dot{9, 3, 3, 3, 3, 3};
-
-std::span<const double> pattern(int style) {
-    switch (style) {
-    case 1:
-        return dash;
-    case 2:
-        return dot;
-    case 3:
-        return dash_dot;
-    case 4:
-        return dash_dot_dot;
-    default:
-        return {};
-    }
-}
 
 /// A part of a line, as distances from its start.
 struct Part {
@@ -48,8 +31,23 @@ void cut(Part& part, double start, double step, double low, double high) {
 
 } // namespace
 
+std::span<const double> dash_pattern(int style) {
+    switch (style) {
+    case 1:
+        return dash;
+    case 2:
+        return dot;
+    case 3:
+        return dash_dot;
+    case 4:
+        return dash_dot_dot;
+    default:
+        return {};
+    }
+}
+
 std::vector<Point> dashes(Point from, Point to, int style, const Bounds& within) {
-    const std::span<const double> lengths = pattern(style);
+    const std::span<const double> lengths = dash_pattern(style);
     const double length = std::hypot(to.x - from.x, to.y - from.y);
     if (lengths.empty() || length == 0) return {from, to};
     const Point step{(to.x - from.x) / length, (to.y - from.y) / length};

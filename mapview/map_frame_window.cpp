@@ -69,11 +69,12 @@ void OverviewView::paintEvent(QPaintEvent* /*event*/) {
 const QImage& OverviewView::content(double scale) {
     const DrawingList& figures = program.painting.overview;
     std::vector<Dot> dots = visible_dots(program.main.shpUnit);
-    if (painted.devicePixelRatio() == scale && painted_figures.same_figures(figures) && painted_dots == dots)
+    const QSize needed = (QSizeF(size()) * scale).toSize();
+    if (painted.size() == needed && painted_figures.same_figures(figures) && painted_dots == dots)
         return painted;
     painted_figures = figures;
     painted_dots = std::move(dots);
-    painted = QImage((QSizeF(size()) * scale).toSize(), QImage::Format_RGB32);
+    painted = QImage(needed, QImage::Format_RGB32);
     painted.setDevicePixelRatio(scale);
     paint_content();
     return painted;
@@ -84,6 +85,7 @@ void OverviewView::paint_content() {
     if (const auto* const picture = dynamic_cast<const MapImage*>(program.main.picMap.picture.get()))
         painter.drawImage(0, 0, picture->overview);
     PainterSurface surface(painter);
+    surface.wanted = {0, 0, static_cast<double>(width()), static_cast<double>(height())};
     program.painting.overview.replay(surface);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     for (const Dot& dot : painted_dots) painter.fillRect(dot.box, to_qt_colour(dot.colour));

@@ -51,6 +51,7 @@ void start_drag(Program& program, const HitTarget& target, const MapPress& press
     if (press.button != left_button || press.shift != shift_key) return;
     program.main.dragging = true;
     program.main.dragged = target;
+    program.main.shpRubberband.visible = false; // a label's press has begun one
 }
 
 void take_in_hand(Program& program, int index, const MapPress& press) {
@@ -182,6 +183,14 @@ void mouse_down(Program& program, const HitTarget& target, MapPress press) {
         const Outcome outcome = offer(program, press, press_on::map);
         if (!press.on_bare_map && outcome == Outcome::goes_on) start_drag(program, target, press);
     });
+}
+
+void end_press(Program& program) {
+    frmMain& main = program.main;
+    main.dragging = false;
+    main.shpRubberband.visible = false;
+    main.shpTrayRubberband.visible = false;
+    main.map_popup_shown = false;
 }
 
 void mouse_move(Program& program, const HitTarget& target, const MapPress& press) {

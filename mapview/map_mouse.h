@@ -8,6 +8,8 @@
 
 /// A press, given to the rows of the map, or first to the marker that was hit.
 void mouse_down(Program& program, const HitTarget& target, MapPress press);
+/// The end of a press whose release goes elsewhere: what only that would end must not stay.
+void end_press(Program& program);
 /// The pointer moves; while a button is down, over what was pressed.
 void mouse_move(Program& program, const HitTarget& target, const MapPress& press);
 /// A release over the map after a press there.

@@ -89,7 +89,7 @@ void MapView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event)
 
 void MapView::end_capture() {
     captured = false;
-    program.main.dragging = false;
+    end_press(program);
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {

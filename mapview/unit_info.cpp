@@ -263,14 +263,16 @@ void lstUIfe_Click(Program& program) {
 void lstUIchildunits_DblClick(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         const std::string key = subordinate_key(selected_row(program.main.lstUIchildunits));
-        if (program.main.lstUIchildunits.selected >= 0)
-            select_alone(program, program.campaign.colUnits->item(key));
+        if (program.main.lstUIchildunits.selected < 0) return;
+        clear_selection(program);
+        select_alone(program, program.campaign.colUnits->item(key));
     });
 }
 
 void cmdSelectHQ_Click(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         if (program.main.lblUIparentname.caption.empty() || !program.campaign.curUnit) return;
+        clear_selection(program);
         select_alone(program, program.campaign.colUnits->item(program.campaign.curUnit->parent_ID));
     });
 }

@@ -135,6 +135,7 @@ QListView* ControlBinder::list(const std::string& name, const std::string& acces
             model->setStringList(to_rows(twin.rows));
         }
         if (view->currentIndex().row() != twin.selected) view->setCurrentIndex(model->index(twin.selected));
+        view->viewport()->update(); // with its signals blocked the selection does not ask for it
         view->setEnabled(twin.enabled);
     });
     return view;

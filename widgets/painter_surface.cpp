@@ -9,10 +9,10 @@
 #include <QImage>
 #include <QLineF>
 #include <QList>
+#include <QPainterPathStroker>
 #include <QPolygonF>
 #include <QStringList>
 
-#include <array>
 #include <numbers>
 
 namespace {
@@ -37,12 +37,6 @@ QBrush hatch(int style, const QColor& colour, bool mask) {
 /// Only a thin line can be broken.
 bool is_dashed(const Pen& pen) { return pen.DrawWidth <= 1 && pen.DrawStyle > 0 && pen.DrawStyle < 5; }
 
-Qt::PenStyle outline_style(const Pen& pen) {
-    constexpr std::array<Qt::PenStyle, 5> styles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
-                                                 Qt::DashDotDotLine};
-    return is_dashed(pen) ? styles[static_cast<std::size_t>(pen.DrawStyle)] : Qt::SolidLine;
-}
-
 QRectF around(Point centre, double radius) {
     return {centre.x - radius, centre.y - radius, 2 * radius, 2 * radius};
 }
@@ -55,11 +49,10 @@ void PainterSurface::apply_mode() {
 }
 
 const QPen& PainterSurface::outline() {
-    if (outlined && outlined->ForeColor == pen.ForeColor && outlined->DrawWidth == pen.DrawWidth &&
-        outlined->DrawStyle == pen.DrawStyle)
+    if (outlined && outlined->ForeColor == pen.ForeColor && outlined->DrawWidth == pen.DrawWidth)
         return outline_pen;
     outlined = pen;
-    outline_pen = {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), outline_style(pen),
+    outline_pen = {to_qt_colour(pen.ForeColor), static_cast<double>(pen.DrawWidth), Qt::SolidLine,
                    Qt::RoundCap, Qt::RoundJoin};
     return outline_pen;
 }
@@ -81,16 +74,30 @@ const QFont& PainterSurface::font() {
     return place->second;
 }
 
-template <class Draw> void PainterSurface::fill_and_outline(Draw draw) {
+template <class Draw, class Outline> void PainterSurface::fill_and_outline(Draw draw, Outline outline_path) {
     apply_mode();
     if (pen.FillStyle != 1) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(fill());
         draw();
     }
+    if (is_dashed(pen)) {
+        outline_in_dashes(outline_path());
+        return;
+    }
     painter.setPen(outline());
     painter.setBrush(Qt::NoBrush);
     draw();
+}
+
+void PainterSurface::outline_in_dashes(const QPainterPath& path) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(1);
+    stroker.setCapStyle(Qt::FlatCap);
+    QList<qreal> pattern;
+    for (const double length : dash_pattern(pen.DrawStyle)) pattern << length;
+    stroker.setDashPattern(pattern);
+    painter.fillPath(stroker.createStroke(path), to_qt_colour(pen.ForeColor));
 }
 
 void PainterSurface::line(Point from, Point to) {
@@ -111,22 +118,45 @@ void PainterSurface::line(Point from, Point to) {
 }
 
 void PainterSurface::circle(Point centre, double radius) {
-    fill_and_outline([&] { painter.drawEllipse(around(centre, radius)); });
+    const QRectF box = around(centre, radius);
+    fill_and_outline([&] { painter.drawEllipse(box); },
+                     [&] {
+                         QPainterPath path;
+                         path.addEllipse(box);
+                         return path;
+                     });
 }
 
 void PainterSurface::pie(Point centre, double radius, double start, double end) {
-    constexpr double units = 16 * 180 / std::numbers::pi; // sixteenths of a degree
+    constexpr double degrees = 180 / std::numbers::pi;
+    constexpr int units = 16; // of a painter's angle to the degree
     double span = end - start;
     if (span <= 0) span += 2 * std::numbers::pi;
-    const int from = qRound(start * units);
-    const int sweep = qRound(span * units);
-    fill_and_outline([&] { painter.drawPie(around(centre, radius), from, sweep); });
+    const QRectF box = around(centre, radius);
+    const int from = qRound(start * degrees * units);
+    const int sweep = qRound(span * degrees * units);
+    fill_and_outline([&] { painter.drawPie(box, from, sweep); },
+                     [&] {
+                         QPainterPath path(box.center());
+                         path.arcTo(box, start * degrees, span * degrees);
+                         path.closeSubpath();
+                         return path;
+                     });
 }
 
 void PainterSurface::polygon(const std::vector<Point>& points) {
     QPolygonF corners;
     for (const Point& point : points) corners << QPointF(point.x, point.y);
-    fill_and_outline([&] { painter.drawPolygon(corners); });
+    if (!is_dashed(pen)) {
+        fill_and_outline([&] { painter.drawPolygon(corners); }, [] { return QPainterPath(); });
+        return;
+    }
+    // Edge by edge: a corner may lie anywhere, and only what is in reach is cut into dashes.
+    apply_mode();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill());
+    painter.drawPolygon(corners);
+    for (std::size_t i = 0; i < points.size(); ++i) line(points[i], points[(i + 1) % points.size()]);
 }
 
 void PainterSurface::print(Point at, const std::string& text) {
@@ -143,9 +173,11 @@ void PainterSurface::print(Point at, const std::string& text) {
 
 void PainterSurface::rectangle(Point top_left, double width, double height, double corner_radius) {
     const QRectF box(top_left.x, top_left.y, width, height);
-    fill_and_outline([&] { painter.drawRoundedRect(box, corner_radius, corner_radius); });
+    fill_and_outline([&] { painter.drawRoundedRect(box, corner_radius, corner_radius); },
+                     [] { return QPainterPath(); });
 }
 
 void PainterSurface::ellipse(Point top_left, double width, double height) {
-    fill_and_outline([&] { painter.drawEllipse(QRectF(top_left.x, top_left.y, width, height)); });
+    fill_and_outline([&] { painter.drawEllipse(QRectF(top_left.x, top_left.y, width, height)); },
+                     [] { return QPainterPath(); });
 }

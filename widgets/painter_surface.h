@@ -5,6 +5,7 @@
 #include <QBrush>
 #include <QFont>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
 
 #include <cstdint>
@@ -33,8 +34,10 @@ class PainterSurface : public Surface {
     const QPen& outline();
     QBrush fill();
     const QFont& font();
-    /// Fills first, then draws the outline over it.
-    template <class Draw> void fill_and_outline(Draw draw);
+    /// Fills first, then draws the outline over it; `outline_path` gives its path when it is dashed.
+    template <class Draw, class Outline> void fill_and_outline(Draw draw, Outline outline_path);
+    /// The library's own dashes begin anew at each edge of what is painted on.
+    void outline_in_dashes(const QPainterPath& path);
 
     QPainter& painter;
 

@@ -1,5 +1,6 @@
 #include "annotation/line_panel.h"
 #include "mapview/overview.h"
+#include "mapview/painting.h"
 
 #include "mapview/frmDisplay.h"
 #include "mapview/unit_tray.h"
@@ -281,4 +282,22 @@ TEST_F(Overview, UnitsEntryRepaints) {
     main.picMap.marked = false;
     mnuShowHideUnits_Click(program);
     EXPECT_TRUE(main.picMap.marked);
+}
+
+TEST_F(Overview, OptionsThatNothingReadsChangeNothing) {
+    auto line = std::make_shared<oLines>();
+    for (const int x : {0, 2000}) line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 0}));
+    campaign.colLines->add(line);
+    const auto unit = add_marked("{1}", 100, 100);
+    picMap_Paint(program);
+    const DrawingList map = program.painting.map;
+    const DrawingList overview = program.painting.overview;
+    const Pens before = program.painting.began_with;
+    campaign.gDispLines = campaign.gDispLabels = campaign.gDispShapes = false;
+    campaign.gDispOmUnits = campaign.gDispOmLines = false;
+    program.painting.set_pens(before);
+    picMap_Paint(program);
+    EXPECT_TRUE(map.same_figures(program.painting.map));
+    EXPECT_TRUE(overview.same_figures(program.painting.overview));
+    EXPECT_TRUE(marker(*unit).visible && main.shpUnit(unit->img_index).visible);
 }

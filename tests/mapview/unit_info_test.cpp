@@ -61,6 +61,8 @@ class UnitInfo : public MapTest {
 TEST_F(UnitInfo, ShowsIdentitySupplyAndPlaceAndKeepsTheUnitsOwn) {
     main.lstUIfe.rows = {"old"};
     main.cmdEditFE.enabled = main.cmdSetFirefan.enabled = true;
+    main.cmdTransferFE.enabled = main.cmdDeleteFE.enabled = true;
+    campaign.curUFE = std::make_shared<oUnitForceElements>();
     show_unit_info(program, "{1}");
     EXPECT_EQ(main.lblUIunitname.caption, "Soviet 1st Rifle");
     EXPECT_EQ(main.lblUIparentname.caption, "");
@@ -75,6 +77,7 @@ TEST_F(UnitInfo, ShowsIdentitySupplyAndPlaceAndKeepsTheUnitsOwn) {
     EXPECT_TRUE(main.lstUIfe.rows.empty());
     EXPECT_FALSE(main.cmdEditFE.enabled || main.cmdSetFirefan.enabled || main.cmdTransferFE.enabled ||
                  main.cmdDeleteFE.enabled);
+    EXPECT_EQ(campaign.curUFE, nullptr);
     EXPECT_EQ(campaign.curUnit, unit);
     EXPECT_TRUE(main.picUnitInfo.visible && main.picMap.marked);
 }
@@ -323,6 +326,7 @@ TEST_F(UnitInfo, MarkInANameHidesTheKey) {
     lstUIchildunits_DblClick(program);
     EXPECT_EQ(platform.texts(), Rows{"Error 5 when displaying unit info."});
     EXPECT_EQ(campaign.curUnit, unit);
+    EXPECT_EQ(selected(), 0U) << "the selection is cleared first";
 }
 
 TEST_F(UnitInfo, CheckOfAccumulatedRowsShowsTheUnitAgain) {
@@ -331,4 +335,14 @@ TEST_F(UnitInfo, CheckOfAccumulatedRowsShowsTheUnitAgain) {
     main.chkShowAllFE.value = true;
     chkShowAllFE_Click(program);
     EXPECT_EQ(main.lstUIfe.rows.size(), 1U);
+}
+
+TEST_F(UnitInfo, WithAccumulatedRowsAGunOfItsOwnCannotBeTurned) {
+    add_element(*unit, 2, 1, 'B')->FireFanAngle = 30;
+    main.chkShowAllFE.value = true;
+    show_unit_info(program, "{1}");
+    main.lstUIfe.selected = 0;
+    lstUIfe_Click(program);
+    EXPECT_FALSE(main.cmdSetFirefan.enabled);
+    EXPECT_EQ(main.lblUIFFangle.caption, "");
 }

@@ -109,3 +109,11 @@ TEST_F(Waypoints, AreGatedByTheirOption) {
     program.campaign.gDispWaypoints = false;
     EXPECT_FALSE(waypoints_are_shown(program));
 }
+
+TEST_F(Waypoints, WithNobodySelectedThereAreNoneOfTheSelectedUnit) {
+    program.campaign.gDispWayptAll = false;
+    program.campaign.gDispWayptSelected = program.main.picUnitInfo.visible = true;
+    program.campaign.curUnit = nullptr;
+    draw_waypoints(program, painting);
+    EXPECT_TRUE(painting.map.empty());
+}

@@ -230,3 +230,10 @@ TEST_F(FireFans, SelectedUnitComesBeforeAllUnitsWhileItsPanelIsOpen) {
     EXPECT_EQ(painting.map.figures()[0].pen.FillColor, 255);
     EXPECT_EQ(painting.map.figures()[1].pen.FillColor, 0xFF0000) << "another unit";
 }
+
+TEST_F(FireFans, WithNobodySelectedThereAreNoneOfTheSelectedUnit) {
+    program.campaign.gDispFirefansSelected = true;
+    program.main.picUnitInfo.visible = true;
+    draw_firefans(program, painting);
+    EXPECT_TRUE(painting.map.empty());
+}

@@ -1,3 +1,7 @@
+#include "mapview/move_unit.h"
+#include "mapview/scrolling.h"
+#include "operations/range_tools.h"
+#include "operations/unit_tools.h"
 #include "program/press_order.h"
 
 #include "mapview/selection.h"
@@ -375,6 +379,7 @@ TEST_F(LabelDrag, ShiftDragMovesALabelByWhereItWasGrabbed) {
     EXPECT_FALSE(main.dragging) << "a plain press never drags";
     press(110, 105, left_button, shift_key);
     ASSERT_TRUE(main.dragging);
+    EXPECT_FALSE(main.shpRubberband.visible);
     drag_over(program, DropSite::map, 205, 87);
     EXPECT_EQ(main.lblUIeastcoord.caption, "01.50") << "of the centre";
     main.picMap.marked = false;
@@ -419,4 +424,78 @@ TEST_F(LabelDrag, ReleaseOverALabelLeavesNoBandAndSwallowsNoLaterRelease) {
     EXPECT_TRUE(main.map_popup_shown);
     control_MouseUp(program, {TargetKind::shape_label, 1});
     EXPECT_FALSE(main.map_popup_shown);
+}
+
+TEST_F(MapTest, EndOfAPressTakesAwayWhatOnlyItsReleaseWouldEnd) {
+    press(2000, 2000);
+    main.shpTrayRubberband.visible = main.map_popup_shown = main.dragging = true;
+    end_press(program);
+    EXPECT_FALSE(main.shpRubberband.visible || main.shpTrayRubberband.visible || main.map_popup_shown ||
+                 main.dragging);
+}
+
+TEST_F(MapTest, AnyReleaseConsumesTheOneThatFollowsAGroupTakenOff) {
+    press_unit(*add_marked("{1}", 500, 500));
+    press_unit(*add_marked("{2}", 600, 500), left_button, ctrl_key);
+    press(2000, 2000, right_button);
+    release(1000, 1000, left_button);
+    EXPECT_FALSE(main.map_popup_shown);
+}
+
+TEST_F(MapTest, MiddleButtonDropsRangeCirclesAndDrawsNoArea) {
+    main.showing_range_circles = true;
+    press(300, 300);
+    EXPECT_FALSE(campaign.colCirclePoints.empty());
+    press(300, 300, 4);
+    EXPECT_TRUE(campaign.colCirclePoints.empty());
+    main.showing_range_circles = false;
+    campaign.curUnit = add_marked("{1}", 500, 500);
+    main.drawing_aoo = true;
+    press(300, 300, 4);
+    EXPECT_TRUE(campaign.curUnit->area_of_opeartion.empty());
+    EXPECT_TRUE(main.drawing_aoo);
+}
+
+TEST_F(MapTest, ToolsOfThePanelSurviveAScroll) {
+    main.setting_firefan = main.drawing_aoo = true;
+    scroll_horizontally_to(program, 300);
+    EXPECT_TRUE(main.setting_firefan && main.drawing_aoo);
+}
+
+TEST_F(MapTest, FirefanToolFencesNothingOff) {
+    main.cmdLoad.enabled = true;
+    main.cmdLabel.enabled = false;
+    cmdSetFirefan_Click(program);
+    EXPECT_TRUE(main.cmdLoad.enabled);
+    cmdSetFirefan_Click(program);
+    EXPECT_FALSE(main.cmdLabel.enabled);
+}
+
+TEST_F(MapTest, PathRangeLeavesItselfEnabledAndFencesTheOthersOff) {
+    cmdPathRange_Click(program);
+    EXPECT_TRUE(main.cmdPathRange.enabled && main.cmdPathRange.on());
+    for (const Button* other : {&main.cmdRangecheck, &main.cmdDrawLines, &main.cmdCreateUnits, &main.cmdLabel,
+                                &main.cmdDrawPolygon, &main.cmdCreateShapes, &main.cmdFireMissions})
+        EXPECT_FALSE(other->enabled);
+}
+
+TEST_F(MapTest, AreaStaysInPlaceHoweverTheUnitIsMoved) {
+    const auto unit = add_marked("{1}", 500, 500);
+    unit->area_of_opeartion->add(std::make_shared<oCoordinates>(oCoordinates{10, 20}));
+    mnuLeaveAOO_Click(program);
+    const auto place = [&] {
+        return std::pair(unit->xcoord + unit->area_of_opeartion->at(1)->x_cor,
+                         unit->ycoord + unit->area_of_opeartion->at(1)->y_cor);
+    };
+    press_unit(*unit);
+    platform.on_modal["frmEnterCoord"] = [&](Form&) {
+        campaign.gFindX = 800;
+        campaign.gFindY = 900;
+    };
+    mnuUP_moveto_Click(program);
+    EXPECT_EQ(unit->xcoord, 800);
+    EXPECT_EQ(place(), std::pair(510, 520));
+    press_unit(*unit, left_button, shift_key);
+    drag_drop(program, DropSite::overview, 50, 60);
+    EXPECT_EQ(place(), std::pair(510, 520));
 }

@@ -175,3 +175,42 @@ TEST_F(Mouse, OptionThatIsOnChangesNothing) {
     desktop.click(single ? "optPolyline" : "optSingleLine");
     EXPECT_FALSE(main().drawing_lines) << "another one ends the drawing";
 }
+
+TEST_F(Mouse, OverviewShowsPictureAndDots) {
+    QWidget* const overview = desktop.control("picOverviewmap");
+    const auto at = [&](int x, int y) { return overview->grab().toImage().pixel(x, y); };
+    main().shpUnit(1).visible = main().shpUnit(2).visible = false;
+    const QRgb plain = at(101, 201);
+    EXPECT_NE(plain, overview->palette().window().color().rgb()) << "the map in small";
+    OverviewDot& dot = main().shpUnit(1);
+    dot.visible = true;
+    dot.left = 100;
+    dot.top = 200;
+    dot.colour = 0x00FF00;
+    EXPECT_EQ(at(101, 201), qRgb(0, 255, 0));
+    dot.visible = false;
+    EXPECT_EQ(at(101, 201), plain);
+}
+
+TEST_F(Mouse, TrayHasItsButtonInPlace) {
+    desktop.click("cmdUnitTray");
+    const QWidget* const tray = desktop.control("picUnitTray");
+    const QWidget* const hide = desktop.control("cmdUTClose");
+    EXPECT_EQ(hide->geometry().right(), tray->width() - 1 - 4);
+    EXPECT_EQ(hide->geometry().bottom(), tray->height() - 1 - 4);
+    EXPECT_EQ(main().picUnitTray.left, main().picUnitInfo.left);
+    EXPECT_EQ(main().picUnitTray.top, main().picUnitInfo.top);
+    EXPECT_EQ(main().picUnitTray.height, main().picUnitInfo.height);
+}
+
+TEST_F(Mouse, MessageDuringAPressOnBareMapLeavesNoBand) {
+    // Without its catalogue entry the gun's fan fails at every refresh.
+    auto gun = std::make_shared<oUnitForceElements>();
+    gun->ID = "{G}";
+    gun->Index = 7777;
+    first->force_elements->add(gun, gun->ID);
+    desktop.with_dialog(
+        [&] { send(QEvent::MouseButtonPress, QPointF(700, 100), Qt::LeftButton, Qt::LeftButton); },
+        [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
+    EXPECT_FALSE(main().shpRubberband.visible);
+}
