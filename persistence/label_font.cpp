@@ -25,9 +25,9 @@ void ask_for_font(Program& program, const oLabels& label, LabelFontChoice& choic
         dialog.font.name = program.campaign.gDefaultFont;
         dialog.font.size = label.font_size >= 1 ? label.font_size : default_size;
         const Font font = program.platform.font_dialog(dialog);
-        if (!can_be_shown(program, font.name, to_int16(font.size))) return;
+        const std::int16_t size = to_int16(font.size);
         choice.font_name = font.name;
-        choice.font_size = to_int16(font.size);
+        choice.font_size = size;
     }));
 }
 

@@ -171,10 +171,8 @@ std::int32_t QtPlatform::colour_dialog(std::int32_t start) {
 
 Font QtPlatform::font_dialog(const FontDialog& dialog) {
     const OpenDialog open(*this);
-    QFont start(to_qt(dialog.font.name));
+    QFont start = to_qt_font(dialog.font);
     start.setPointSizeF(dialog.font.size);
-    start.setBold(dialog.font.bold);
-    start.setItalic(dialog.font.italic);
     bool accepted = false;
     const QFont chosen = QFontDialog::getFont(&accepted, start, parent_window());
     if (!accepted) cancelled();

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QRectF>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -28,11 +29,12 @@ constexpr std::array<StandIn, 4> stand_ins{{{"Arial", "Liberation Sans"},
 constexpr double pixels_per_point = 96.0 / 72.0;
 
 QString look_up(const std::string& name) {
+    // By what the font dialog lists: the database itself denies some of these families.
+    const QStringList families = QFontDatabase::families();
     QString wanted = to_qt(name);
-    if (QFontDatabase::hasFamily(wanted)) return wanted;
+    if (families.contains(wanted, Qt::CaseInsensitive)) return wanted;
     for (const StandIn& stand_in : stand_ins)
-        if (wanted.compare(stand_in.name, Qt::CaseInsensitive) == 0 &&
-            QFontDatabase::hasFamily(stand_in.instead))
+        if (wanted.compare(stand_in.name, Qt::CaseInsensitive) == 0 && families.contains(stand_in.instead))
             return stand_in.instead;
     return {};
 }

@@ -246,3 +246,14 @@ TEST_F(ReferenceFiles, EmptyRosterBecomesAnEmptyFile) {
 TEST_F(ReferenceFiles, WritingToAMissingFolderFailsWith76) {
     EXPECT_EQ(number_of([&] { save_towns(program); }), 76);
 }
+
+TEST_F(ReferenceFiles, RostersAreWrittenMastersFirstThenAlliedThenAxis) {
+    auto master = std::make_shared<oGameMasters>();
+    master->name = "new master";
+    program.campaign.colGameMasters->add(master, master->name);
+    write_file("data/axis players.txt", "old");
+    std::filesystem::create_directories(path("data/allied players.txt"));
+    EXPECT_EQ(number_of([&] { save_user_data(program); }), 75);
+    EXPECT_NE(file_bytes("data/game masters.txt").find("new master"), std::string::npos);
+    EXPECT_EQ(file_bytes("data/axis players.txt"), "old");
+}

@@ -185,6 +185,16 @@ TEST_F(MainFileReader, FontThatIsMissingIsAskedForOnceAndReplacedInAllLaterOnes)
     EXPECT_EQ(program.main.lblUser(3).font.name, "Times");
 }
 
+TEST_F(MainFileReader, ChosenFontIsTakenWhateverTheSystemSaysOfIt) {
+    platform.missing_fonts = {"Fraktur", "Sans Serif"};
+    platform.chosen_font = Font{"Sans Serif", 16, false, false, false, false};
+    oLabels missing = label("{1}");
+    missing.font_name = "Fraktur";
+    load(labels({missing}));
+    EXPECT_EQ(program.campaign.colLabels->item("{1}")->font_name, "Sans Serif");
+    EXPECT_EQ(program.campaign.colLabels->item("{1}")->font_size, 16);
+}
+
 TEST_F(MainFileReader, CancelledFontChoiceGivesTheDefaultFont) {
     platform.missing_fonts = {"Fraktur"};
     oLabels missing = label("{1}");

@@ -1,6 +1,7 @@
 #include "program/frmStart.h"
 
 #include "core/hierarchy.h"
+#include "mapview/frmDisplay.h"
 #include "mapview/frmEnterCoord.h"
 #include "persistence/main_file_reader.h"
 #include "persistence/main_file_writer.h"
@@ -13,6 +14,7 @@
 #include "program/unit_info_buttons.h"
 #include "tests/support/program_test.h"
 
+#include <map>
 #include <set>
 
 namespace {
@@ -265,7 +267,20 @@ TEST_F(Start, ExitReleasesTheCampaignUnloadsEveryWindowAndTheMainWindowLast) {
     program.campaign.colTowns->add(std::make_shared<oTowns>());
     program.campaign.colGameMasters->add(std::make_shared<oGameMasters>());
     program.campaign.colSelectedUnits->add(program.campaign.curUnit, "a");
+    program.campaign.colUnitTypes->add(std::make_shared<oUnitTypes>());
+    program.campaign.colForceElements->add(std::make_shared<oForceElements>());
+    program.campaign.colLabels->add(std::make_shared<oLabels>());
+    program.campaign.colShapes->add(std::make_shared<oShapes>());
+    program.campaign.colPolygons->add(std::make_shared<oPolygons>());
+    program.campaign.colFireMissions->add(std::make_shared<oFireMission>());
+    program.campaign.colPathPoints->add(std::make_shared<oCoordinates>());
+    program.campaign.colCirclePoints->add(std::make_shared<oCoordinates>());
+    program.campaign.colRussianPlayers.drop();
+    program.campaign.colRussianPlayers->add(std::make_shared<oRussianPlayers>());
+    program.campaign.colGermanPlayers->add(std::make_shared<oGermanPlayers>());
     program.form<frmEnterCoord>().show();
+    program.form<frmDisplay>().show();
+    program.form<frmAboutTolvaneII>().show();
     program.form<frmAboutMap>().show();
     program.form<frmMapLegend>().show();
     platform.messages.clear();
@@ -275,9 +290,15 @@ TEST_F(Start, ExitReleasesTheCampaignUnloadsEveryWindowAndTheMainWindowLast) {
     EXPECT_TRUE(program.campaign.colUnitTypes.empty() && program.campaign.colTowns.empty() &&
                 program.campaign.colForceElements.empty() && program.campaign.colGameMasters.empty() &&
                 program.campaign.colLines.empty() && program.campaign.colSelectedUnits.empty());
+    EXPECT_TRUE(program.campaign.colLabels.empty() && program.campaign.colShapes.empty() &&
+                program.campaign.colPolygons.empty() && program.campaign.colFireMissions.empty() &&
+                program.campaign.colPathPoints.empty() && program.campaign.colCirclePoints.empty() &&
+                program.campaign.colRussianPlayers.empty() && program.campaign.colGermanPlayers.empty());
     EXPECT_EQ(program.campaign.curLine, nullptr);
-    EXPECT_LT(place_of("hide frmMapLegend"), place_of("hide frmAboutMap"));
-    EXPECT_LT(place_of("hide frmAboutMap"), place_of("hide frmEnterCoord"));
+    EXPECT_LT(place_of("hide frmMapLegend"), place_of("hide frmAboutTolvaneII"));
+    EXPECT_LT(place_of("hide frmAboutTolvaneII"), place_of("hide frmAboutMap"));
+    EXPECT_LT(place_of("hide frmAboutMap"), place_of("hide frmDisplay"));
+    EXPECT_LT(place_of("hide frmDisplay"), place_of("hide frmEnterCoord"));
     EXPECT_LT(place_of("hide frmEnterCoord"), place_of("unload frmMain"));
     EXPECT_EQ(platform.log.back(), "unload frmMain");
     EXPECT_FALSE(program.forms.at("frmStart")->loaded);
@@ -420,4 +441,30 @@ TEST(Tables, SubmenusStandUnderTheirEntries) {
         if (std::string(row.parent) == "mnuSaveUnits") under.emplace_back(row.caption);
     EXPECT_EQ(under, (std::vector<std::string>{"Save Allied units...", "Save Axis units...", "Save all units",
                                                "Save selected units..."}));
+}
+
+TEST(Tables, EveryEntryStandsUnderItsTitle) {
+    std::map<std::string, std::vector<std::string>> under;
+    for (const MenuRow& row : menu_rows()) under[row.parent].emplace_back(row.control);
+    using Names = std::vector<std::string>;
+    EXPECT_EQ(under["&File"],
+              (Names{"mnuSaveSelected", "mnuSave", "mnuLoad", "mnuSaveUnits", "mnuLoadUnits", "mnuExit"}));
+    EXPECT_EQ(under["&Edit"], (Names{"mnuDeleteAll", "mnuDeleteSelected"}));
+    EXPECT_EQ(under["&View"],
+              (Names{"mnuSetDisplay", "mnuViewCompleteOOB", "mnuUnitState", "mnuShowHideUnits"}));
+    EXPECT_EQ(under["&Tools"], (Names{"mnuRangeCircles", "mnuCheckHQSub", "mnuChangeUnitID", "mnuOpt"}));
+    EXPECT_EQ(under["mnuOpt"], Names{"mnuLeaveAOO"});
+    EXPECT_EQ(under["&Reports"], Names{"mnuListUnits"});
+    EXPECT_EQ(under["&Help"], (Names{"mnuAboutTolvaneII", "mnuAboutMap"}));
+    EXPECT_EQ(under["Unit menu"], (Names{"mnuUP_delete", "mnuUP_edit", "mnuUP_delete_all", "mnuUP_moveto"}));
+    EXPECT_EQ(under["Overview Popup"],
+              (Names{"mnuViewFFoverview", "mnuOVPU_showlines", "mnuOVPU_show_units"}));
+    EXPECT_EQ(under.size(), 10U);
+}
+
+TEST(Tables, ButtonsOfFilesRunTheirOwnCommands) {
+    for (const ToolbarRow& row : toolbar_rows()) {
+        if (std::string(row.control) == "cmdLoad") EXPECT_EQ(row.click, cmdLoad_Click);
+        if (std::string(row.control) == "cmdSave") EXPECT_EQ(row.click, cmdSave_Click);
+    }
 }

@@ -141,3 +141,25 @@ TEST_F(Layers, ArePaintedAgainOnlyForAnotherPlaceSizeOrPaint) {
     EXPECT_NE(layers.image(program, part, 1).pixel(50, 50), qRgb(200, 210, 190)) << "a line of the grid";
     EXPECT_EQ(layers.image(program, part, 2).size(), QSize(2 * view_size, 2 * view_size));
 }
+
+TEST_F(Layers, DashedOutlinesStayOnTheMapWhenTheViewScrolls) {
+    auto line = std::make_shared<oLines>(); // the last line's dashes go on to the areas
+    line->linestyle = 2;
+    line->linewidth = 1;
+    for (const int x : {2900, 2990})
+        line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 2990}));
+    program.campaign.colLines->add(line);
+    auto unit = std::make_shared<oUnits>();
+    unit->ID = "{1}";
+    unit->color = 0xFFFFFF;
+    unit->xcoord = unit->ycoord = 800;
+    for (const auto& [x, y] : {std::pair(-500, -100), {450, -100}, {450, 400}, {-500, 400}})
+        unit->area_of_opeartion->add(std::make_shared<oCoordinates>(oCoordinates{x, y}));
+    program.campaign.colUnits->add(unit, unit->ID);
+    picMap_Paint(program);
+    const QImage first = at(500, 500);
+    const QImage scrolled = at(503, 507);
+    const QRect common(5, 5, view_size - 20, view_size - 20);
+    EXPECT_EQ(different_pixels(first.copy(common.translated(3, 7)), scrolled.copy(common)), 0);
+    EXPECT_GT(different_pixels(first, scrolled), 100);
+}

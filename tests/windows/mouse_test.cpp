@@ -11,6 +11,10 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QWindow>
+
+#include <array>
+#include <set>
 
 namespace {
 
@@ -213,4 +217,44 @@ TEST_F(Mouse, MessageDuringAPressOnBareMapLeavesNoBand) {
         [&] { send(QEvent::MouseButtonPress, QPointF(700, 100), Qt::LeftButton, Qt::LeftButton); },
         [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
     EXPECT_FALSE(main().shpRubberband.visible);
+}
+
+TEST_F(Mouse, ChanceOfTheRealPlatformDiffersEachTime) {
+    std::array<std::uint8_t, 16> bytes{};
+    std::set<std::array<std::uint8_t, 16>> seen;
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_TRUE(desktop.platform.random_bits(bytes));
+        EXPECT_TRUE(seen.insert(bytes).second);
+    }
+}
+
+TEST_F(Mouse, KeysReachTheControlThatHasThemAsWell) {
+    desktop.click("cmdDrawLines");
+    desktop.click("chkBoundry");
+    auto* const box = desktop.control<QComboBox>("cboBoundrySize");
+    box->setEditText("");
+    box->setFocus();
+    QTest::keyClick(desktop.window()->windowHandle(), Qt::Key_6, Qt::KeypadModifier);
+    QTest::qWait(10);
+    EXPECT_EQ(box->currentText(), "6");
+    EXPECT_EQ(main().scrlHMap.value, 40) << "the keypad scrolls all the same";
+}
+
+TEST_F(Mouse, CtrlHeldDownKeepsTheMarkersHiddenWhileItRepeats) {
+    auto* const handle = desktop.window()->windowHandle();
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+    QApplication::sendEvent(handle, &down);
+    EXPECT_FALSE(main().imgUnit(1).visible);
+    QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier, "", true);
+    QApplication::sendEvent(handle, &repeated);
+    EXPECT_FALSE(main().imgUnit(1).visible);
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier);
+    QApplication::sendEvent(handle, &up);
+    EXPECT_TRUE(main().imgUnit(1).visible);
+}
+
+TEST_F(Mouse, CloseBoxLeavesTheProgram) {
+    campaign().colLabels->add(std::make_shared<oLabels>());
+    desktop.window()->close();
+    EXPECT_TRUE(campaign().colUnits.empty() && campaign().colLabels.empty());
 }
