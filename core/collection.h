@@ -33,61 +33,57 @@ class RecordKey {
 /// Finding by key and by 1-based position takes constant time, and so does removing by key: the gap is closed
 /// once, at the next walk.
 template <class T> class Collection {
-    struct Slot {
-        std::shared_ptr<T> item; // empty: removed, the gap not yet closed
-        RecordKey key;
-    };
-
   public:
     using Item = std::shared_ptr<T>;
 
     class Iterator {
       public:
-        Iterator(const Slot* slot, const Slot* end) : slot(slot), end(end) {}
-        const Item& operator*() const { return slot->item; }
+        Iterator(const Item* item, const Item* end) : item(item), end(end) {}
+        const Item& operator*() const { return *item; }
         Iterator& operator++() {
-            ++slot;
-            if (end - slot > look_ahead) fetch(slot[look_ahead].item.get());
+            ++item;
+            if (end - item > look_ahead) fetch(item[look_ahead].get());
             return *this;
         }
-        bool operator!=(const Iterator& other) const { return slot != other.slot; }
+        bool operator!=(const Iterator& other) const { return item != other.item; }
 
       private:
-        // The records lie all over the memory. A walk asks for one a few steps before it gets there, so that
-        // it need not wait: a large campaign is then walked about as quickly, record for record, as a small
-        // one.
+        // The records lie all over the memory. A walk asks for the front of one, where what is wanted most
+        // stands, a few steps before it gets there: a large campaign is then walked about as quickly, record
+        // for record, as a small one.
         static constexpr std::ptrdiff_t look_ahead = 4;
         static void fetch(const T* record) {
             constexpr std::size_t line = 64;
             const auto* const bytes = reinterpret_cast<const char*>(record);
-            for (std::size_t at = 0; at < std::min<std::size_t>(sizeof(T), 128); at += line)
+            constexpr std::size_t front = 2 * line;
+            for (std::size_t at = 0; at < std::min(sizeof(T), front); at += line)
                 __builtin_prefetch(bytes + at);
         }
 
-        const Slot* slot;
-        const Slot* end;
+        const Item* item;
+        const Item* end;
     };
 
-    std::size_t count() const { return slots.size() - gaps; }
+    std::size_t count() const { return records.size() - gaps; }
     bool empty() const { return count() == 0; }
 
     /// A walk in order. The collection must not change meanwhile: a walk that changes it goes over `items()`.
     Iterator begin() const {
         close_gaps();
-        return Iterator(slots.data(), slots.data() + slots.size());
+        return Iterator(records.data(), records.data() + records.size());
     }
-    Iterator end() const { return Iterator(slots.data() + slots.size(), slots.data() + slots.size()); }
+    Iterator end() const {
+        return Iterator(records.data() + records.size(), records.data() + records.size());
+    }
 
     /// The records as they stand now.
     std::vector<Item> items() const {
-        std::vector<Item> all;
-        all.reserve(count());
-        for (const Item& item : *this) all.push_back(item);
-        return all;
+        close_gaps();
+        return records;
     }
 
     /// Appends a record without a key.
-    void add(Item item) { slots.push_back({std::move(item), {}}); }
+    void add(Item item) { records.push_back(std::move(item)); }
 
     /// Appends a record under a key. Fails with 457 when the key is present.
     void add(Item item, std::string_view key) {
@@ -96,11 +92,13 @@ template <class T> class Collection {
 
     /// Like `add`, but a present key is told by the answer: false, and nothing changes.
     bool add_new(Item item, std::string_view key) {
-        if (slot_of(key) != none) return false;
-        slots.push_back({std::move(item), RecordKey(key)});
+        if (place_of(key) != none) return false;
+        keys.resize(records.size());
+        keys.emplace_back(key);
+        records.push_back(std::move(item));
         if (indexed())
-            index.add(key, slots.size() - 1);
-        else if (slots.size() > largest_without_index)
+            index.add(key, records.size() - 1);
+        else if (records.size() > largest_without_index)
             build_index();
         return true;
     }
@@ -108,40 +106,43 @@ template <class T> class Collection {
     /// Puts a record without a key behind the 1-based position; 0 puts it first. Fails with 9.
     void insert_after(std::size_t position, Item item) {
         close_gaps();
-        if (position > slots.size()) throw Failure{failure::no_such_position};
-        slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(position), Slot{std::move(item), {}});
+        if (position > records.size()) throw Failure{failure::no_such_position};
+        const auto at = static_cast<std::ptrdiff_t>(position);
+        records.insert(records.begin() + at, std::move(item));
+        if (position < keys.size()) keys.insert(keys.begin() + at, RecordKey());
         if (indexed()) build_index();
     }
 
-    bool contains(std::string_view key) const { return slot_of(key) != none; }
+    bool contains(std::string_view key) const { return place_of(key) != none; }
 
     /// The record under the key, or nothing.
     Item find(std::string_view key) const {
-        const std::size_t slot = slot_of(key);
-        return slot == none ? nullptr : slots[slot].item;
+        const std::size_t place = place_of(key);
+        return place == none ? nullptr : records[place];
     }
 
     /// The same for a short look, without a share in the record.
     T* look_up(std::string_view key) const {
-        const std::size_t slot = slot_of(key);
-        return slot == none ? nullptr : slots[slot].item.get();
+        const std::size_t place = place_of(key);
+        return place == none ? nullptr : records[place].get();
     }
 
     /// The record under the key. Fails with 5 when the key is absent.
-    const Item& item(std::string_view key) const { return slots[present(key)].item; }
+    const Item& item(std::string_view key) const { return records[present(key)]; }
 
     /// The record at the 1-based position. Fails with 9 when there is none.
     const Item& at(std::size_t position) const {
         close_gaps();
-        if (position < 1 || position > slots.size()) throw Failure{failure::no_such_position};
-        return slots[position - 1].item;
+        if (position < 1 || position > records.size()) throw Failure{failure::no_such_position};
+        return records[position - 1];
     }
 
     /// Fails with 5 when the key is absent.
     void remove(std::string_view key) {
-        const std::size_t slot = present(key);
-        if (indexed()) index.remove(key, slot);
-        slots[slot] = {};
+        const std::size_t place = present(key);
+        if (indexed()) index.remove(key, place);
+        records[place] = nullptr;
+        keys[place] = RecordKey();
         ++gaps;
         if (empty()) clear();
     }
@@ -149,13 +150,15 @@ template <class T> class Collection {
     /// Fails with 9 when there is no such 1-based position.
     void remove_at(std::size_t position) {
         close_gaps();
-        if (position < 1 || position > slots.size()) throw Failure{failure::no_such_position};
-        slots.erase(slots.begin() + static_cast<std::ptrdiff_t>(position - 1));
+        if (position < 1 || position > records.size()) throw Failure{failure::no_such_position};
+        const auto at = static_cast<std::ptrdiff_t>(position - 1);
+        records.erase(records.begin() + at);
+        if (position <= keys.size()) keys.erase(keys.begin() + at);
         if (indexed()) build_index();
     }
 
     void clear() { *this = {}; }
-    void reserve(std::size_t count) { slots.reserve(count); }
+    void reserve(std::size_t count) { records.reserve(count); }
 
   private:
     static constexpr std::size_t none = KeyIndex::none;
@@ -165,37 +168,46 @@ template <class T> class Collection {
 
     bool indexed() const { return !index.empty(); }
 
-    std::size_t slot_of(std::string_view key) const {
-        if (indexed()) return index.find(key, [this](std::size_t slot) { return slots[slot].key.text(); });
-        for (std::size_t i = 0; i < slots.size(); ++i)
-            if (slots[i].key.present() && slots[i].key.text() == key) return i;
+    std::size_t place_of(std::string_view key) const {
+        if (indexed()) return index.find(key, [this](std::size_t place) { return keys[place].text(); });
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            if (keys[i].present() && keys[i].text() == key) return i;
         return none;
     }
 
     std::size_t present(std::string_view key) const {
-        const std::size_t slot = slot_of(key);
-        if (slot == none) throw Failure{failure::invalid_call};
-        return slot;
+        const std::size_t place = place_of(key);
+        if (place == none) throw Failure{failure::invalid_call};
+        return place;
     }
 
     void build_index() const {
         index.clear();
-        for (std::size_t i = 0; i < slots.size(); ++i)
-            if (slots[i].key.present()) index.add(slots[i].key.text(), i);
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            if (keys[i].present()) index.add(keys[i].text(), i);
     }
 
     void close_gaps() const {
         if (gaps == 0) return;
-        std::erase_if(slots, [](const Slot& slot) { return !slot.item; });
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            if (!records[i]) continue;
+            if (i != kept && i < keys.size()) keys[kept] = std::exchange(keys[i], RecordKey());
+            if (i != kept) records[kept] = std::move(records[i]);
+            ++kept;
+        }
+        records.resize(kept);
+        keys.resize(std::min(keys.size(), kept));
         gaps = 0;
-        if (slots.size() > largest_without_index)
+        if (records.size() > largest_without_index)
             build_index();
         else
             index.clear();
     }
 
     // Closing gaps changes nothing that a caller can see, so a reader may do it.
-    mutable std::vector<Slot> slots;
+    mutable std::vector<Item> records;   // an empty one was removed, its gap not yet closed
+    mutable std::vector<RecordKey> keys; // of the records in front; those behind the last key have none
     mutable KeyIndex index;
     mutable std::size_t gaps = 0;
 };

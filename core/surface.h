@@ -78,7 +78,8 @@ class Surface {
     virtual ~Surface() = default;
 
     Pen pen;
-    Bounds wanted; // what lies outside need not be drawn; the pen changes all the same
+    std::vector<Point> scratch; // room for the corners of a figure, made once for all of them
+    Bounds wanted;              // what lies outside need not be drawn; the pen changes all the same
 
     bool wants(const Bounds& figure) const { return wanted.meets(figure); }
 

@@ -3,7 +3,6 @@
 #include "core/surface.h"
 #include "core/unit_records.h"
 
-#include <limits>
 #include <vector>
 
 /// Where a unit, a vertex or a waypoint is, in map pixels.
@@ -24,30 +23,22 @@ inline Point place_in_area(const oUnits& unit, const oCoordinates& vertex) {
     return {place_of(unit).x + vertex.x_cor, place_of(unit).y + vertex.y_cor};
 }
 
-/// The box around a list of vertices and what the pen's width can touch beside it.
+/// The places of a list of vertices, in the surface's own room for them.
 template <class Vertices, class Place>
-Bounds bounds_of_vertices(const Surface& surface, const Vertices& vertices, Place place) {
-    constexpr double none = std::numeric_limits<double>::infinity();
-    Bounds around{none, none, -none, -none};
-    for (const auto& vertex : vertices) around = around.with(bounds_of(place(*vertex)));
-    return around.grown_by(surface.pen.DrawWidth + 1);
+const std::vector<Point>& places(Surface& surface, const Vertices& vertices, Place place) {
+    surface.scratch.clear();
+    for (const auto& vertex : vertices) surface.scratch.push_back(place(*vertex));
+    return surface.scratch;
 }
 
 /// Draws a segment between each two neighbours of a list of vertices.
 template <class Vertices, class Place>
 void draw_path(Surface& surface, const Vertices& vertices, Place place) {
-    if (!surface.wants(bounds_of_vertices(surface, vertices, place))) return;
-    std::vector<Point> points;
-    points.reserve(vertices.count());
-    for (const auto& vertex : vertices) points.push_back(place(*vertex));
-    surface.path(points);
+    surface.path(places(surface, vertices, place));
 }
 
 /// Draws a polygon with these corners.
 template <class Vertices, class Place>
 void draw_closed(Surface& surface, const Vertices& vertices, Place place) {
-    if (!surface.wants(bounds_of_vertices(surface, vertices, place))) return;
-    std::vector<Point> corners;
-    for (const auto& vertex : vertices) corners.push_back(place(*vertex));
-    surface.polygon(corners);
+    surface.polygon(places(surface, vertices, place));
 }

@@ -38,6 +38,9 @@ struct oAccuUFE : oUnitForceElements {};
 
 /// One leg of a unit's movement.
 struct oWaypoint {
+    float X = 0;
+    float Y = 0;
+    std::int16_t range = 0; // metres
     std::string ID;
     double speed = 0; // km/h
     std::string start_year;
@@ -51,38 +54,35 @@ struct oWaypoint {
     std::string end_hour;
     std::string end_minute;
     std::string notes;
-    float X = 0;
-    float Y = 0;
-    std::int16_t range = 0; // metres
 };
 
-/// One unit of either side.
+/// One unit of either side. What painting asks of every unit at each refresh stands first, close together.
 struct oUnits {
-    std::string ID;
-    std::string unittype;
-    std::string symbol; // picture path below the program directory, with backslashes
     std::int32_t color = 0;
     std::int16_t xcoord = 0; // the centre
     std::int16_t ycoord = 0;
+    std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
+    std::int16_t state = 0;     // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
+    CollectionRef<oWaypoint> waypoints;
+    CollectionRef<oCoordinates> area_of_opeartion;
+    CollectionRef<oUnitForceElements> force_elements;
+    CollectionRef<oChildren> children;
+    std::string ID;
+    std::string affiliation; // "Allied" or "Axis"
+    std::string unittype;
+    std::string symbol; // picture path below the program directory, with backslashes
     std::string name;
     std::string echelon;
     std::string nationality;
-    std::string affiliation; // "Allied" or "Axis"
     std::string player_name;
     std::string player_email;
     std::string gm_name;
     std::string gm_email;
     std::string parent_ID;
     std::string parent_name;
-    CollectionRef<oChildren> children;
-    CollectionRef<oUnitForceElements> force_elements;
-    std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
-    CollectionRef<oCoordinates> area_of_opeartion;
     std::int16_t supply_req = 0; // ton/day
     std::int16_t current_supply = 0;
     std::string op_status;
     std::string fitness;
     std::string order_id; // despite its name the unit class
-    CollectionRef<oWaypoint> waypoints;
-    std::int16_t state = 0; // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
 };
