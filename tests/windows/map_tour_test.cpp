@@ -38,10 +38,10 @@ class MapTour : public Tour {
         QTest::qWait(1);
     }
 
-    /// A headquarters with artillery and subordinates.
+    /// A headquarters with artillery and subordinates, close to the front.
     std::shared_ptr<oUnits> headquarters() {
         for (const auto& unit : desktop.program.campaign.colUnits)
-            if (unit->children.count() > 2 && !unit->force_elements.empty()) return unit;
+            if (unit->name == "1471st") return unit;
         return desktop.program.campaign.colUnits->at(1);
     }
 
