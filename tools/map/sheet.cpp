@@ -1,6 +1,7 @@
 #include "tools/map/sheet.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -218,7 +219,8 @@ void Sheet::water() {
             const QPointF way = direction(*line, i);
             painter.save();
             painter.translate((*line)[i] + across(way) * (line == &terrain.tolva ? -26 : -16));
-            painter.rotate(std::atan2(way.y(), way.x()) * 180 / 3.14159265);
+            const QPointF reading = way.x() < 0 ? -way : way; // never upside down
+            painter.rotate(std::atan2(reading.y(), reading.x()) * 180 / 3.14159265);
             const QFont font = serif(line == &terrain.tolva ? 22 : 17, true);
             halo_text({0, 0}, text, font, QColor(0x1F, 0x5E, 0x96));
             painter.restore();
@@ -392,6 +394,7 @@ void Sheet::bridges() {
 
 void Sheet::spot_heights() {
     constexpr int around = 34; // nodes
+    std::vector<QPointF> told_heights;
     for (int row = around; row + around < terrain.heights.rows; ++row)
         for (int column = around; column + around < terrain.heights.columns; ++column) {
             const double height = terrain.heights.node(column, row);
@@ -402,7 +405,12 @@ void Sheet::spot_heights() {
             const QPointF at(column * Field::spacing, row * Field::spacing);
             const QString figure = QString::number(height, 'f', 1);
             const QRectF box(at.x() - 6, at.y() - 9, 52, 18);
-            if (!highest || !is_free(box)) continue;
+            // A flat top has several highest points; one figure is enough for it.
+            const bool told = std::any_of(told_heights.begin(), told_heights.end(), [&](QPointF other) {
+                return QLineF(other, at).length() < 2 * around * Field::spacing;
+            });
+            if (!highest || told || !is_free(box)) continue;
+            told_heights.push_back(at);
             taken.push_back(box);
             painter.setPen(pen(black, 1.2));
             painter.setBrush(Qt::NoBrush);
