@@ -1,5 +1,7 @@
 #include "core/collection.h"
 
+#include "core/trap.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -19,15 +21,6 @@ std::string names(const Collection<Record>& collection) {
     return all;
 }
 
-template <class Body> int number_of(Body body) {
-    try {
-        body();
-    } catch (const Failure& failed) {
-        return failed.number;
-    }
-    return 0;
-}
-
 } // namespace
 
 TEST(Collection, KeepsTheOrderOfInsertion) {
@@ -43,15 +36,15 @@ TEST(Collection, KeepsTheOrderOfInsertion) {
 TEST(Collection, PresentKeyFailsWith457AndChangesNothing) {
     Collection<Record> collection;
     collection.add(record("a"), "a");
-    EXPECT_EQ(number_of([&] { collection.add(record("b"), "a"); }), 457);
+    EXPECT_EQ(failure_of([&] { collection.add(record("b"), "a"); }), 457);
     EXPECT_FALSE(collection.add_new(record("b"), "a"));
     EXPECT_EQ(names(collection), "a");
 }
 
 TEST(Collection, AbsentKeyFailsWith5) {
     Collection<Record> collection;
-    EXPECT_EQ(number_of([&] { collection.item("b"); }), 5);
-    EXPECT_EQ(number_of([&] { collection.remove("b"); }), 5);
+    EXPECT_EQ(failure_of([&] { collection.item("b"); }), 5);
+    EXPECT_EQ(failure_of([&] { collection.remove("b"); }), 5);
     EXPECT_EQ(collection.find("b"), nullptr);
 }
 
@@ -77,11 +70,11 @@ TEST(Collection, PositionsCountFromOneAndFailWith9) {
     EXPECT_EQ(collection.at(1)->name, "a");
     collection.remove("a");
     EXPECT_EQ(collection.at(1)->name, "b");
-    EXPECT_EQ(number_of([&] { collection.at(0); }), 9);
-    EXPECT_EQ(number_of([&] { collection.at(3); }), 9);
+    EXPECT_EQ(failure_of([&] { collection.at(0); }), 9);
+    EXPECT_EQ(failure_of([&] { collection.at(3); }), 9);
     collection.remove_at(2);
     EXPECT_EQ(names(collection), "b");
-    EXPECT_EQ(number_of([&] { collection.remove_at(2); }), 9);
+    EXPECT_EQ(failure_of([&] { collection.remove_at(2); }), 9);
 }
 
 TEST(Collection, InsertsBehindAPosition) {
@@ -90,7 +83,7 @@ TEST(Collection, InsertsBehindAPosition) {
     collection.insert_after(1, record("c"));
     collection.insert_after(0, record("a"));
     EXPECT_EQ(names(collection), "abc");
-    EXPECT_EQ(number_of([&] { collection.insert_after(4, record("x")); }), 9);
+    EXPECT_EQ(failure_of([&] { collection.insert_after(4, record("x")); }), 9);
 }
 
 TEST(Collection, ManyRecordsKeepKeyPositionAndOrderThroughRemovals) {

@@ -1,27 +1,14 @@
 #include "core/record_syntax.h"
 
-#include "core/failure.h"
+#include "core/trap.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-template <class Body> int number_of(Body body) {
-    try {
-        body();
-    } catch (const Failure& failed) {
-        return failed.number;
-    }
-    return 0;
-}
-
-} // namespace
 
 TEST(FieldReader, LineEndsAndCommasSeparateAlike) {
     FieldReader in("1,2\r\n3\n4\r5");
     for (int i = 1; i <= 5; ++i) EXPECT_EQ(in.int16(), i);
     EXPECT_TRUE(in.at_end());
-    EXPECT_EQ(number_of([&] { in.int16(); }), 62);
+    EXPECT_EQ(failure_of([&] { in.int16(); }), 62);
 }
 
 TEST(FieldReader, CommasAndLineEndsInsideQuotesAreText) {
@@ -61,7 +48,7 @@ TEST(FieldReader, TextBehindAClosingQuoteBeginsTheNextField) {
 TEST(FieldReader, MissingClosingQuoteRunsToTheEnd) {
     FieldReader in("\"a,b\r\n");
     EXPECT_EQ(in.text(), "a,b\r\n");
-    EXPECT_EQ(number_of([&] { in.text(); }), 62);
+    EXPECT_EQ(failure_of([&] { in.text(); }), 62);
 }
 
 TEST(FieldReader, EmptyFieldIsNothingOfEachType) {
@@ -92,18 +79,18 @@ TEST(FieldReader, FractionInAWholeNumberFieldGoesToTheEvenNeighbour) {
 }
 
 TEST(FieldReader, NumbersOutOfRangeFailWith6) {
-    EXPECT_EQ(number_of([] { FieldReader("32768").int16(); }), 6);
-    EXPECT_EQ(number_of([] { FieldReader("-32769").int16(); }), 6);
-    EXPECT_EQ(number_of([] { FieldReader("2147483648").long_integer(); }), 6);
-    EXPECT_EQ(number_of([] { FieldReader("2147483663").long_integer(); }), 6);
+    EXPECT_EQ(failure_of([] { FieldReader("32768").int16(); }), 6);
+    EXPECT_EQ(failure_of([] { FieldReader("-32769").int16(); }), 6);
+    EXPECT_EQ(failure_of([] { FieldReader("2147483648").long_integer(); }), 6);
+    EXPECT_EQ(failure_of([] { FieldReader("2147483663").long_integer(); }), 6);
     EXPECT_EQ(FieldReader("-2147483633").long_integer(), -2147483633);
-    EXPECT_EQ(number_of([] { FieldReader("1e39").single(); }), 6);
+    EXPECT_EQ(failure_of([] { FieldReader("1e39").single(); }), 6);
 }
 
 TEST(FieldReader, TextInANumberFieldFailsWith13) {
-    EXPECT_EQ(number_of([] { FieldReader("abc").int16(); }), 13);
-    EXPECT_EQ(number_of([] { FieldReader("\"1 2\"").int16(); }), 13);
-    EXPECT_EQ(number_of([] { FieldReader("#YES#").boolean(); }), 13);
+    EXPECT_EQ(failure_of([] { FieldReader("abc").int16(); }), 13);
+    EXPECT_EQ(failure_of([] { FieldReader("\"1 2\"").int16(); }), 13);
+    EXPECT_EQ(failure_of([] { FieldReader("#YES#").boolean(); }), 13);
 }
 
 TEST(FieldReader, BooleansInAnyLetterCaseOrAsNumbers) {
