@@ -141,8 +141,9 @@ QWidget* LinePanelView::modes() {
     grid->addWidget(bind.button("cmdInsertPointLine", "Insert point", main.cmdInsertPointLine,
                                 [this] { cmdInsertPointLine_Click(program); }),
                     1, 1);
-    grid->addWidget(bind.button("cmdDeletePoint", "Delete single point\n(polylines only)",
-                                main.cmdDeletePoint, [this] { cmdDeletePoint_Click(program); }),
+    grid->addWidget(bind.button(
+                        "cmdDeletePoint", "Delete single point (polylines only)", main.cmdDeletePoint,
+                        [this] { cmdDeletePoint_Click(program); }, ControlBinder::Caption::wrapped),
                     2, 0, 1, 2);
     grid->addWidget(bind.button("cmdDeleteAllLines", "Delete all lines", main.cmdDeleteAllLines,
                                 [this] { cmdDeleteAllLines_Click(program); }),

@@ -45,10 +45,9 @@ UnitInfoView::UnitInfoView(Program& program, const Sprites& sprites, std::span<c
         "lstUIfe", "Force elements", main.lstUIfe, [&program] { lstUIfe_Click(program); }, nullptr);
     page->addWidget(elements, 1);
     for (QListView* const list : {children, elements}) list->setMinimumHeight(84);
-    QCheckBox* const all = bind.check_box("chkShowAllFE", "Show accumulated for all\nsubordinate units",
-                                          main.chkShowAllFE, [&program] { chkShowAllFE_Click(program); });
-    all->setAccessibleName("Show accumulated for all subordinate units");
-    page->addWidget(all);
+    page->addWidget(bind.check_box(
+        "chkShowAllFE", "Show accumulated for all subordinate units", main.chkShowAllFE,
+        [&program] { chkShowAllFE_Click(program); }, ControlBinder::Caption::wrapped));
     page->addWidget(button_rows(buttons, "elements"));
     page->addWidget(button_rows(buttons, "map"));
 }

@@ -2,6 +2,7 @@
 
 #include "widgets/colours_qt.h"
 #include "widgets/text.h"
+#include "widgets/wrapping.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,6 +22,12 @@ namespace {
 template <class Widget> Widget* named(Widget* widget, const std::string& name) {
     widget->setObjectName(to_qt(name));
     return widget;
+}
+
+template <class Control>
+Control* made(const std::string& caption, ControlBinder::Caption lines, QWidget* parent) {
+    if (lines == ControlBinder::Caption::wrapped) return new Wrapping<Control>(to_qt(caption), parent);
+    return new Control(to_qt(caption), parent);
 }
 
 /// A list in which a press on the current row counts like one that makes it current.
@@ -62,8 +69,8 @@ QLabel* ControlBinder::label(const std::string& name, const Label& twin) {
 }
 
 QPushButton* ControlBinder::button(const std::string& name, const std::string& caption, Button& twin,
-                                   Procedure click) {
-    auto* const push = named(new QPushButton(to_qt(caption), parent), name);
+                                   Procedure click, Caption lines) {
+    auto* const push = named(made<QPushButton>(caption, lines, parent), name);
     push->setAutoDefault(false);
     const bool exists = click != nullptr;
     QObject::connect(push, &QPushButton::clicked, push, [this, click = std::move(click)] { run(click); });
@@ -76,8 +83,8 @@ QPushButton* ControlBinder::button(const std::string& name, const std::string& c
 }
 
 QCheckBox* ControlBinder::check_box(const std::string& name, const std::string& caption, CheckBox& twin,
-                                    Procedure click) {
-    auto* const box = named(new QCheckBox(to_qt(caption), parent), name);
+                                    Procedure click, Caption lines) {
+    auto* const box = named(made<QCheckBox>(caption, lines, parent), name);
     QObject::connect(box, &QCheckBox::toggled, box, [this, &twin, click = std::move(click)](bool on) {
         twin.value = on;
         if (click) run(click);

@@ -21,13 +21,16 @@ class QWidget;
 class ControlBinder {
   public:
     using Procedure = std::function<void()>;
+    /// Whether a caption may go on to further lines.
+    enum class Caption : bool { one_line, wrapped };
     /// `run` runs an event procedure as an event of its own.
     ControlBinder(QWidget* parent, std::function<void(const Procedure&)> run);
 
     QLabel* label(const std::string& name, const Label& twin);
-    QPushButton* button(const std::string& name, const std::string& caption, Button& twin, Procedure click);
-    QCheckBox* check_box(const std::string& name, const std::string& caption, CheckBox& twin,
-                         Procedure click);
+    QPushButton* button(const std::string& name, const std::string& caption, Button& twin, Procedure click,
+                        Caption lines = Caption::one_line);
+    QCheckBox* check_box(const std::string& name, const std::string& caption, CheckBox& twin, Procedure click,
+                         Caption lines = Caption::one_line);
     QRadioButton* option(const std::string& name, const std::string& caption, OptionButton& twin,
                          Procedure click);
     QListView* list(const std::string& name, const std::string& accessible_name, ListBox& twin,
