@@ -191,3 +191,31 @@ TEST_F(Layout, TabWalksThroughTheUnitPanelInReadingOrder) {
             << a.x() << "," << a.y() << " then " << b.x() << "," << b.y();
     }
 }
+
+TEST_F(Layout, DarkThemeLeavesRulersTogglesAndListsReadable) {
+    const QPalette light = QApplication::palette();
+    QPalette dark(QColor(0x20, 0x22, 0x26));
+    dark.setColor(QPalette::Base, QColor(0x18, 0x1A, 0x1D));
+    QApplication::setPalette(dark);
+    desktop.start();
+    open_unit_panel();
+    const QImage ruler = desktop.control("picHcoordContainer")->grab().toImage();
+    int light_pixels = 0;
+    int dark_blue_pixels = 0;
+    for (int x = 0; x < ruler.width(); ++x)
+        for (int y = 0; y < ruler.height(); ++y) {
+            const QColor colour = ruler.pixelColor(x, y);
+            light_pixels += colour.lightness() > 220 ? 1 : 0;
+            dark_blue_pixels += colour.blue() > 120 && colour.red() < 60 ? 1 : 0;
+        }
+    EXPECT_GT(light_pixels, ruler.width() * ruler.height() / 2);
+    EXPECT_GT(dark_blue_pixels, 50) << "the numbers";
+    QWidget* const grid = desktop.control("cmdGrid");
+    const QImage off = grid->grab().toImage();
+    desktop.click("cmdGrid");
+    QTest::qWait(20);
+    EXPECT_NE(grid->grab().toImage(), off) << "one sees that it is on";
+    const QPalette list = desktop.control("lstUIfe")->palette();
+    EXPECT_GT(list.color(QPalette::Text).lightness() - list.color(QPalette::Base).lightness(), 120);
+    QApplication::setPalette(light);
+}
