@@ -48,16 +48,14 @@ template <class T> class Collection {
         bool operator!=(const Iterator& other) const { return item != other.item; }
 
       private:
-        // The records lie all over the memory. A walk asks for the front of one, where what is wanted most
-        // stands, a few steps before it gets there: a large campaign is then walked about as quickly, record
-        // for record, as a small one.
+        // The records lie all over the memory. A walk asks for one a few steps before it gets there, so that
+        // it need not wait: a large campaign is then walked about as quickly, record for record, as a small
+        // one.
         static constexpr std::ptrdiff_t look_ahead = 4;
         static void fetch(const T* record) {
             constexpr std::size_t line = 64;
             const auto* const bytes = reinterpret_cast<const char*>(record);
-            constexpr std::size_t front = 2 * line;
-            for (std::size_t at = 0; at < std::min(sizeof(T), front); at += line)
-                __builtin_prefetch(bytes + at);
+            for (std::size_t at = 0; at < sizeof(T); at += line) __builtin_prefetch(bytes + at);
         }
 
         const Item* item;
