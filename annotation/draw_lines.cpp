@@ -3,8 +3,6 @@
 #include "annotation/boundary.h"
 #include "core/unit_place.h"
 
-#include <cmath>
-
 namespace {
 
 /// The drawing style of a line; styles that old files hold and nobody can choose are solid.
@@ -12,13 +10,19 @@ int draw_style(const oLines& line) {
     return line.linestyle >= 1 && line.linestyle <= 5 ? line.linestyle - 1 : 0;
 }
 
-/// What a boundary can touch between two vertices. Its halves follow a heading of whole degrees, so that they
+/// Where the vertices lie, nothing when they make no line.
+const Bounds& line_bounds(const oLines& line) {
+    return line.bounds.get(
+        [&] { return line.colCoords.count() < 2 ? Bounds::nothing() : box_of(line.colCoords); });
+}
+
+/// What a boundary can touch between two places. Its halves follow a heading of whole degrees, so that they
 /// stray from a long segment.
-Bounds boundary_bounds(Point from, Point to, int width) {
+Bounds boundary_bounds(const Bounds& ends, int width) {
     constexpr double sign = 40;
     constexpr double straying = 0.02;
-    const double length = std::abs(to.x - from.x) + std::abs(to.y - from.y);
-    return bounds_of(from, to).grown_by(sign + straying * length + width);
+    const double length = ends.right - ends.left + ends.bottom - ends.top;
+    return ends.grown_by(sign + straying * length + width);
 }
 
 void draw_boundary(Surface& map, const oLines& line) {
@@ -26,7 +30,7 @@ void draw_boundary(Surface& map, const oLines& line) {
     bool first = true;
     for (const auto& vertex : line.colCoords) {
         const Point here = place_of(*vertex);
-        if (!first && map.wants(boundary_bounds(last, here, line.linewidth))) {
+        if (!first && map.wants(boundary_bounds(bounds_of(last, here), line.linewidth))) {
             const std::vector<Point> strokes = boundary_strokes(last, here, line.boundry_size);
             for (std::size_t i = 0; i + 1 < strokes.size(); i += 2) map.line(strokes[i], strokes[i + 1]);
         }
@@ -35,10 +39,42 @@ void draw_boundary(Surface& map, const oLines& line) {
     }
 }
 
+void draw_line(Surface& map, const oLines& line) {
+    if (line.is_boundry)
+        draw_boundary(map, line);
+    else
+        draw_path(map, line.colCoords);
+}
+
+Point last_vertex(const oLines* line) {
+    return line == nullptr ? Point{} : place_of(*line->colCoords->at(line->colCoords.count()));
+}
+
 void draw_arrowhead(Surface& map, const oLines& line, Point tip) {
     map.pen.DrawStyle = 0;
     map.line({static_cast<double>(line.arrow1_x), static_cast<double>(line.arrow1_y)}, tip);
     map.line({static_cast<double>(line.arrow2_x), static_cast<double>(line.arrow2_y)}, tip);
+}
+
+std::vector<OverviewLines::Line> lines_to_show(const Program& program) {
+    std::vector<OverviewLines::Line> shown;
+    shown.reserve(program.campaign.colLines.count());
+    for (const auto& line : program.campaign.colLines)
+        if (!line_bounds(*line).is_nothing())
+            shown.push_back({line.get(), line->linecolor, draw_style(*line)});
+    return shown;
+}
+
+void draw_small(Surface& overview, const OverviewLines::Source& source) {
+    for (const auto& [line, colour, style] : source.lines) {
+        overview.pen.ForeColor = colour;
+        overview.pen.DrawStyle = style;
+        overview.pen.DrawWidth = 1;
+        overview.scratch.clear();
+        for (const auto& vertex : line->colCoords)
+            overview.scratch.push_back({vertex->x_cor * source.ratio, vertex->y_cor * source.ratio});
+        overview.path(overview.scratch);
+    }
 }
 
 } // namespace
@@ -49,33 +85,31 @@ void draw_lines(Program& program, Painting& painting) {
     Surface& map = painting.map;
     const bool last_is_open = program.main.drawing_lines && !program.main.line_ended;
     std::size_t position = 0;
-    Point last_vertex; // of the last plain line: an arrow on a boundary ends there
+    const oLines* last_plain = nullptr; // an arrow on a boundary ends where this one does
     for (const auto& line : program.campaign.colLines) {
         ++position;
-        if (line->colCoords.count() < 2) continue;
+        const Bounds& bounds = line_bounds(*line);
+        if (bounds.is_nothing()) continue;
         map.pen.ForeColor = line->linecolor;
         map.pen.DrawStyle = draw_style(*line);
         map.pen.DrawWidth = line->linewidth;
-        if (line->is_boundry) {
-            draw_boundary(map, *line);
-        } else {
-            draw_path(map, line->colCoords, [](const oCoordinates& vertex) { return place_of(vertex); });
-            last_vertex = place_of(*line->colCoords->at(line->colCoords.count()));
-        }
+        if (map.wants(boundary_bounds(bounds, line->linewidth))) draw_line(map, *line);
+        if (!line->is_boundry) last_plain = line.get();
         const bool is_last = position == program.campaign.colLines.count();
-        if (line->is_arrow && !(is_last && last_is_open)) draw_arrowhead(map, *line, last_vertex);
+        if (line->is_arrow && !(is_last && last_is_open)) draw_arrowhead(map, *line, last_vertex(last_plain));
     }
 }
 
-void draw_overview_lines(const Program& program, Surface& overview) {
+void draw_overview_lines(const Program& program, Painting& painting) {
     const double ratio = program.main.picOverviewmap.scale_width() / program.main.picMap.scale_width();
-    for (const auto& line : program.campaign.colLines) {
-        if (line->colCoords.count() < 2) continue;
-        overview.pen.ForeColor = line->linecolor;
-        overview.pen.DrawStyle = draw_style(*line);
-        overview.pen.DrawWidth = 1;
-        draw_path(overview, line->colCoords, [&](const oCoordinates& vertex) {
-            return Point{vertex.x_cor * ratio, vertex.y_cor * ratio};
-        });
+    OverviewLines& kept = painting.overview_lines;
+    OverviewLines::Source source{lines_to_show(program), CornerChanges::count(), ratio,
+                                 painting.overview.pen};
+    if (!(source == kept.source)) {
+        kept.source = std::move(source);
+        kept.figures.clear();
+        kept.figures.pen = kept.source.pen;
+        draw_small(kept.figures, kept.source);
     }
+    painting.overview.append(kept.figures);
 }

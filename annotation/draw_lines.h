@@ -7,4 +7,4 @@ bool there_are_lines(const Program& program);
 void draw_lines(Program& program, Painting& painting);
 
 /// The lines on the overview, all plain.
-void draw_overview_lines(const Program& program, Surface& overview);
+void draw_overview_lines(const Program& program, Painting& painting);

@@ -41,8 +41,7 @@ bool polygon_is_being_drawn(const Program& program) {
 void draw_polygon_being_drawn(Program& program, Painting& painting) {
     painting.map.pen.ForeColor = program.main.picPolygonBordercolor.back_colour;
     painting.map.pen.DrawWidth = program.main.scrlPolygonBorderthickness.value;
-    draw_path(painting.map, program.campaign.curPolygon->coordinates,
-              [](const oCoordinates& vertex) { return place_of(vertex); });
+    draw_path(painting.map, program.campaign.curPolygon->coordinates);
     painting.map.pen.DrawWidth = 1;
     painting.map.pen.ForeColor = 0;
 }

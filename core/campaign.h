@@ -35,7 +35,7 @@ struct ActiveRecords {
     std::shared_ptr<oUnits> curUnit;
     std::shared_ptr<oShapes> curShape;
     std::shared_ptr<oUnitForceElements> curUFE;
-    std::shared_ptr<oWaypoint> curWaypoint;
+    std::shared_ptr<const oWaypoint> curWaypoint;
     std::shared_ptr<oPolygons> curPolygon;
     std::shared_ptr<oFireMission> curFireMission;
     std::shared_ptr<oTowns> curTown;

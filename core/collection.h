@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/corners.h"
 #include "core/failure.h"
 #include "core/key_index.h"
 
@@ -51,11 +52,12 @@ template <class T> class Collection {
         // The records lie all over the memory. A walk asks for one a few steps before it gets there, so that
         // it need not wait: a large campaign is then walked about as quickly, record for record, as a small
         // one.
-        static constexpr std::ptrdiff_t look_ahead = 4;
+        static constexpr std::ptrdiff_t look_ahead = 8;
         static void fetch(const T* record) {
             constexpr std::size_t line = 64;
             const auto* const bytes = reinterpret_cast<const char*>(record);
-            for (std::size_t at = 0; at < sizeof(T); at += line) __builtin_prefetch(bytes + at);
+            for (std::size_t at = 0; at < std::min(2 * line, sizeof(T)); at += line)
+                __builtin_prefetch(bytes + at);
         }
 
         const Item* item;
@@ -81,7 +83,10 @@ template <class T> class Collection {
     }
 
     /// Appends a record without a key.
-    void add(Item item) { records.push_back(std::move(item)); }
+    void add(Item item) {
+        note_change();
+        records.push_back(std::move(item));
+    }
 
     /// Appends a record under a key. Fails with 457 when the key is present.
     void add(Item item, std::string_view key) {
@@ -91,6 +96,7 @@ template <class T> class Collection {
     /// Like `add`, but a present key is told by the answer: false, and nothing changes.
     bool add_new(Item item, std::string_view key) {
         if (place_of(key) != none) return false;
+        note_change();
         keys.resize(records.size());
         keys.emplace_back(key);
         records.push_back(std::move(item));
@@ -105,6 +111,7 @@ template <class T> class Collection {
     void insert_after(std::size_t position, Item item) {
         close_gaps();
         if (position > records.size()) throw Failure{failure::no_such_position};
+        note_change();
         const auto at = static_cast<std::ptrdiff_t>(position);
         records.insert(records.begin() + at, std::move(item));
         if (position < keys.size()) keys.insert(keys.begin() + at, RecordKey());
@@ -138,6 +145,7 @@ template <class T> class Collection {
     /// Fails with 5 when the key is absent.
     void remove(std::string_view key) {
         const std::size_t place = present(key);
+        note_change();
         if (indexed()) index.remove(key, place);
         records[place] = nullptr;
         keys[place] = RecordKey();
@@ -149,13 +157,17 @@ template <class T> class Collection {
     void remove_at(std::size_t position) {
         close_gaps();
         if (position < 1 || position > records.size()) throw Failure{failure::no_such_position};
+        note_change();
         const auto at = static_cast<std::ptrdiff_t>(position - 1);
         records.erase(records.begin() + at);
         if (position <= keys.size()) keys.erase(keys.begin() + at);
         if (indexed()) build_index();
     }
 
-    void clear() { *this = {}; }
+    void clear() {
+        note_change();
+        *this = {};
+    }
     void reserve(std::size_t count) { records.reserve(count); }
 
   private:
@@ -163,6 +175,10 @@ template <class T> class Collection {
     // Most collections belong to one unit and hold a handful of records: comparing so few keys is quicker
     // than hashing one, and thousands of units then carry no hash table.
     static constexpr std::size_t largest_without_index = 8;
+
+    static void note_change() {
+        if constexpr (is_corner<T>) CornerChanges::add_one();
+    }
 
     bool indexed() const { return !index.empty(); }
 
@@ -216,12 +232,10 @@ template <class T> class CollectionRef {
   public:
     CollectionRef() = default;
     CollectionRef(const CollectionRef& other) : held(other.made()) {}
-    CollectionRef(CollectionRef&& other) noexcept = default;
     CollectionRef& operator=(const CollectionRef& other) {
-        if (this != &other) held = other.made();
+        if (this != &other) hold(other.made());
         return *this;
     }
-    CollectionRef& operator=(CollectionRef&& other) noexcept = default;
     ~CollectionRef() = default;
 
     Collection<T>* operator->() const { return made().get(); }
@@ -230,11 +244,16 @@ template <class T> class CollectionRef {
     auto end() const { return made()->end(); }
 
     /// Lets go of the collection; the next use finds a new, empty one.
-    void drop() { held.reset(); }
+    void drop() { hold(nullptr); }
     bool empty() const { return !held || held->empty(); }
     std::size_t count() const { return held ? held->count() : 0; }
 
   private:
+    void hold(std::shared_ptr<Collection<T>> other) {
+        if constexpr (is_corner<T>) CornerChanges::add_one();
+        held = std::move(other);
+    }
+
     const std::shared_ptr<Collection<T>>& made() const {
         if (!held) held = std::make_shared<Collection<T>>();
         return held;

@@ -78,7 +78,7 @@ void DrawingList::polygon(const std::vector<Point>& corners) {
 }
 
 void DrawingList::print(Point at, const std::string& text) {
-    if (!wants(text_bounds(at, text.size(), pen.FontSize))) return;
+    if (!wants(text_bounds(at, text, pen.FontSize))) return;
     keep(Kind::print, text.size());
     points.push_back(at);
     letters += text;
@@ -89,6 +89,20 @@ void DrawingList::clear() {
     pens.clear();
     points.clear();
     letters.clear();
+}
+
+void DrawingList::append(const DrawingList& other) {
+    const auto offset = [](const auto& row) { return static_cast<std::uint32_t>(row.size()); };
+    for (Entry entry : other.entries) {
+        entry.pen += offset(pens);
+        entry.first += offset(points);
+        entry.first_letter += offset(letters);
+        entries.push_back(entry);
+    }
+    pens.insert(pens.end(), other.pens.begin(), other.pens.end());
+    points.insert(points.end(), other.points.begin(), other.points.end());
+    letters += other.letters;
+    pen = other.pen;
 }
 
 std::vector<DrawingList::Figure> DrawingList::figures() const {
@@ -110,7 +124,7 @@ Bounds DrawingList::bounds_of_entry(const Entry& entry) const {
     case Kind::pie:
         return bounds_of(at).grown_by(points[entry.first + 1].x + margin(its_pen));
     case Kind::print:
-        return text_bounds(at, entry.count, its_pen.FontSize);
+        return text_bounds(at, {&letters[entry.first_letter], entry.count}, its_pen.FontSize);
     default:
         return around({&points[entry.first], entry.count}).grown_by(margin(its_pen));
     }

@@ -33,6 +33,8 @@ class DrawingList : public Surface {
 
     /// Removes the figures; the pen stays.
     void clear();
+    /// Takes over the figures and the pen of another list.
+    void append(const DrawingList& other);
 
     bool empty() const { return entries.empty(); }
     std::vector<Figure> figures() const;

@@ -14,6 +14,7 @@ struct oLines {
     std::int16_t linestyle = 0; // 1 solid, 2 dash, 3 dot, 4 dash-dot, 5 dash-dot-dot
     std::int16_t linewidth = 0;
     CollectionRef<oCoordinates> colCoords;
+    FromCorners<Bounds> bounds; // of its vertices; nothing with fewer than two
     bool is_arrow = false;
     bool is_polyline = false;
     bool is_boundry = false;

@@ -26,12 +26,36 @@ struct Pens {
     bool operator==(const Pens&) const = default;
 };
 
+/// The lines as the overview shows them. Most paints find them as they were: they are drawn anew only when
+/// what they were drawn from is no longer the same.
+struct OverviewLines {
+    struct Line {
+        const oLines* line;
+        std::int32_t colour;
+        int style;
+
+        bool operator==(const Line&) const = default;
+    };
+    struct Source {
+        std::vector<Line> lines;
+        std::uint64_t corner_changes = 0;
+        double ratio = 0; // of the overview to the map
+        Pen pen;
+
+        bool operator==(const Source&) const = default;
+    };
+
+    Source source;
+    DrawingList figures;
+};
+
 /// What the layers draw on. The overview's and the rulers' pens are their own.
 struct Painting {
     DrawingList map;
     DrawingList hcoord;
     DrawingList vcoord;
     DrawingList overview;
+    OverviewLines overview_lines;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
     long number = 0;         // counts the paints

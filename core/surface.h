@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The one pen of a drawing surface. What a layer leaves, the next one finds.
@@ -37,6 +38,13 @@ struct Bounds {
     double right = std::numeric_limits<double>::infinity();
     double bottom = std::numeric_limits<double>::infinity();
 
+    /// The box that holds and meets nothing.
+    static Bounds nothing() {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        return {infinity, infinity, -infinity, -infinity};
+    }
+    bool is_nothing() const { return left > right; }
+
     bool meets(const Bounds& other) const {
         return left <= other.right && other.left <= right && top <= other.bottom && other.top <= bottom;
     }
@@ -45,6 +53,9 @@ struct Bounds {
     }
     Bounds grown_by(double margin) const {
         return {left - margin, top - margin, right + margin, bottom + margin};
+    }
+    Bounds moved_by(Point distance) const {
+        return {left + distance.x, top + distance.y, right + distance.x, bottom + distance.y};
     }
     /// The smallest box that holds this one and the other.
     Bounds with(const Bounds& other) const {
@@ -59,12 +70,13 @@ inline Bounds bounds_of(Point a, Point b) {
     return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
 }
 
-/// What a text of so many letters can touch at most. Its size is the font's affair: this is an outer bound
-/// for any common one, also when every letter is a line of its own.
-inline Bounds text_bounds(Point at, std::size_t letters, int font_size) {
+/// What a text with its top left corner at the point can touch. Its size is the font's affair: this is an
+/// outer bound for any common one.
+inline Bounds text_bounds(Point at, std::string_view text, int font_size) {
     const double em = 2.0 * font_size;
-    const double reach = em * static_cast<double>(letters + 1);
-    return {at.x - em, at.y - em, at.x + reach, at.y + reach};
+    const auto letters = static_cast<double>(text.size());
+    const auto lines = static_cast<double>(std::count(text.begin(), text.end(), '\n') + 1);
+    return {at.x - em, at.y - em, at.x + em * (letters + 1), at.y + em * (lines + 1)};
 }
 
 /// A drawing surface with one pen. Pixels, y down; angles in radians, counter-clockwise from the east.

@@ -18,27 +18,29 @@ inline Point place_of(const oWaypoint& waypoint) {
     return {static_cast<double>(waypoint.X), static_cast<double>(waypoint.Y)};
 }
 
-/// A vertex of the unit's area of operation, which is stored as an offset from the unit.
-inline Point place_in_area(const oUnits& unit, const oCoordinates& vertex) {
-    return {place_of(unit).x + vertex.x_cor, place_of(unit).y + vertex.y_cor};
+inline Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
+
+/// The box around corners, nothing when there are none.
+template <class Corners> Bounds box_of(const Corners& corners) {
+    Bounds box = Bounds::nothing();
+    for (const auto& corner : corners) box = box.with(bounds_of(place_of(*corner)));
+    return box;
 }
 
-/// The places of a list of vertices, in the surface's own room for them.
-template <class Vertices, class Place>
-const std::vector<Point>& places(Surface& surface, const Vertices& vertices, Place place) {
+/// The places of corners beside an origin, in the surface's own room for them.
+template <class Corners>
+const std::vector<Point>& places(Surface& surface, const Corners& corners, Point origin) {
     surface.scratch.clear();
-    for (const auto& vertex : vertices) surface.scratch.push_back(place(*vertex));
+    for (const auto& corner : corners) surface.scratch.push_back(place_of(*corner) + origin);
     return surface.scratch;
 }
 
-/// Draws a segment between each two neighbours of a list of vertices.
-template <class Vertices, class Place>
-void draw_path(Surface& surface, const Vertices& vertices, Place place) {
-    surface.path(places(surface, vertices, place));
+/// Draws a segment between each two neighbours.
+template <class Corners> void draw_path(Surface& surface, const Corners& corners, Point origin = {}) {
+    surface.path(places(surface, corners, origin));
 }
 
 /// Draws a polygon with these corners.
-template <class Vertices, class Place>
-void draw_closed(Surface& surface, const Vertices& vertices, Place place) {
-    surface.polygon(places(surface, vertices, place));
+template <class Corners> void draw_closed(Surface& surface, const Corners& corners, Point origin = {}) {
+    surface.polygon(places(surface, corners, origin));
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "core/collection.h"
+#include "core/corners.h"
+#include "core/surface.h"
 
 #include <cstdint>
 #include <string>
@@ -10,9 +12,11 @@
 
 /// A vertex. In lines and polygons map pixels; in areas of operation offsets from the unit.
 struct oCoordinates {
-    std::int32_t x_cor = 0;
-    std::int32_t y_cor = 0;
+    Coordinate x_cor;
+    Coordinate y_cor;
 };
+
+template <> inline constexpr bool is_corner<oCoordinates> = true;
 
 /// A reference to a subordinate unit. The name is a copy and may be stale.
 struct oChildren {
@@ -36,7 +40,7 @@ struct oUnitForceElements {
 /// Holdings of a unit and its subordinates added up; never stored.
 struct oAccuUFE : oUnitForceElements {};
 
-/// One leg of a unit's movement.
+/// One leg of a unit's movement. In its list it does not change: to change it is to put another in its place.
 struct oWaypoint {
     float X = 0;
     float Y = 0;
@@ -56,16 +60,20 @@ struct oWaypoint {
     std::string notes;
 };
 
+template <> inline constexpr bool is_corner<const oWaypoint> = true;
+
 /// One unit of either side. What painting asks of every unit at each refresh stands first, close together.
 struct oUnits {
     std::int32_t color = 0;
     std::int16_t xcoord = 0; // the centre
     std::int16_t ycoord = 0;
-    std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
-    std::int16_t state = 0;     // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
-    CollectionRef<oWaypoint> waypoints;
-    CollectionRef<oCoordinates> area_of_opeartion;
+    std::int16_t img_index = 0;       // index of the marker; a value of this run, in no file
+    std::int16_t state = 0;           // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
     CollectionRef<oUnitForceElements> force_elements;
+    FromCorners<Bounds> route_bounds; // of all that is drawn for its waypoints
+    FromCorners<Bounds> area_bounds;  // of its area, as offsets from the unit
+    CollectionRef<const oWaypoint> waypoints;
+    CollectionRef<oCoordinates> area_of_opeartion;
     CollectionRef<oChildren> children;
     std::string ID;
     std::string affiliation; // "Allied" or "Axis"

@@ -3,8 +3,8 @@
 namespace {
 
 bool holds(const MapControl& control, double x, double y, Container container) {
-    return control.visible && control.container == container && x >= control.left &&
-           x < control.left + control.width && y >= control.top && y < control.top + control.height;
+    return x >= control.left && x < control.left + control.width && y >= control.top &&
+           y < control.top + control.height && control.visible && control.container == container;
 }
 
 struct Search {
@@ -16,7 +16,7 @@ struct Search {
     void over(const ControlArray<Control>& controls, TargetKind kind, double x, double y) {
         for (int i = 1; i <= controls.upper(); ++i) {
             const MapControl& control = controls(i);
-            if (control.depth <= depth || !holds(control, x, y, container)) continue;
+            if (!holds(control, x, y, container) || control.depth <= depth) continue;
             found = {kind, i};
             depth = control.depth;
         }

@@ -27,10 +27,9 @@ double margin(const MapShape& shape) { return 1 + shape.border_width / 2.0; }
 double margin(const StateBar& /*bar*/) { return 0; }
 double margin(const MapLabel& label) { return label.font.size; } // letters that lean out
 
-template <class Control> bool in_view(const Control& control, const QRectF& wanted, Container container) {
-    const double m = margin(control);
-    return control.visible && control.container == container &&
-           box(control).adjusted(-m, -m, m, m).intersects(wanted);
+template <class Control> bool in_view(const Control& control, const Bounds& wanted, Container container) {
+    const Bounds box{control.left, control.top, control.left + control.width, control.top + control.height};
+    return wanted.meets(box.grown_by(margin(control))) && control.visible && control.container == container;
 }
 
 void paint_marker(QPainter& painter, const UnitMarker& marker, const Sprites& sprites) {
@@ -109,7 +108,7 @@ void paint_scratch_controls(QPainter& painter, const frmMain& main) {
 }
 
 template <class Control, class Paint>
-void collect(std::vector<Waiting>& waiting, const ControlArray<Control>& controls, const QRectF& wanted,
+void collect(std::vector<Waiting>& waiting, const ControlArray<Control>& controls, const Bounds& wanted,
              Paint paint, Container container = Container::map) {
     for (int i = 1; i <= controls.upper(); ++i) {
         const Control& control = controls(i);
@@ -135,7 +134,7 @@ void paint_band(QPainter& painter, const ShapeControl& band) {
 
 void paint_tray_controls(QPainter& painter, const frmMain& main, const Sprites& sprites) {
     std::vector<Waiting> waiting;
-    const QRectF everywhere(-32768, -32768, 65536, 65536);
+    const Bounds everywhere;
     collect(
         waiting, main.imgUnit, everywhere,
         [&](const UnitMarker& control) { paint_marker(painter, control, sprites); }, Container::tray);
@@ -147,7 +146,8 @@ void paint_tray_controls(QPainter& painter, const frmMain& main, const Sprites& 
 }
 
 void paint_map_controls(QPainter& painter, const frmMain& main, const Sprites& sprites, const QRect& wanted) {
-    const QRectF area(wanted);
+    const QRectF box(wanted);
+    const Bounds area{box.left(), box.top(), box.right(), box.bottom()};
     std::vector<Waiting> waiting;
     const auto label = [&](const MapLabel& control) { paint_label(painter, control); };
     collect(waiting, main.imgUnit, area,

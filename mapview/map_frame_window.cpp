@@ -68,12 +68,11 @@ void OverviewView::paintEvent(QPaintEvent* /*event*/) {
 
 const QImage& OverviewView::content(double scale) {
     const DrawingList& figures = program.painting.overview;
-    std::vector<Dot> dots = visible_dots(program.main.shpUnit);
     const QSize needed = (QSizeF(size()) * scale).toSize();
-    if (painted.size() == needed && painted_figures.same_figures(figures) && painted_dots == dots)
+    if (painted.size() == needed && painted_figures.same_figures(figures) && dots_are_painted())
         return painted;
     painted_figures = figures;
-    painted_dots = std::move(dots);
+    take_dots();
     painted = QImage(needed, QImage::Format_RGB32);
     painted.setDevicePixelRatio(scale);
     paint_content();
@@ -88,13 +87,24 @@ void OverviewView::paint_content() {
     surface.wanted = {0, 0, static_cast<double>(width()), static_cast<double>(height())};
     program.painting.overview.replay(surface);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    for (const Dot& dot : painted_dots) painter.fillRect(dot.box, to_qt_colour(dot.colour));
+    for (const Dot& dot : painted_dots)
+        painter.fillRect(QRectF(dot.left, dot.top, dot.width, dot.height), to_qt_colour(dot.colour));
 }
 
-std::vector<OverviewView::Dot> OverviewView::visible_dots(const ControlArray<OverviewDot>& all) {
-    std::vector<Dot> dots;
-    for (int i = 1; i <= all.upper(); ++i)
-        if (const OverviewDot& dot = all(i); dot.visible)
-            dots.push_back({QRectF(dot.left, dot.top, dot.width, dot.height), dot.colour});
-    return dots;
+bool OverviewView::dots_are_painted() const {
+    const ControlArray<OverviewDot>& dots = program.main.shpUnit;
+    auto next = painted_dots.begin();
+    for (int i = 1; i <= dots.upper(); ++i) {
+        if (!dots(i).visible) continue;
+        if (next == painted_dots.end() || *next != Dot(dots(i))) return false;
+        ++next;
+    }
+    return next == painted_dots.end();
+}
+
+void OverviewView::take_dots() {
+    const ControlArray<OverviewDot>& dots = program.main.shpUnit;
+    painted_dots.clear();
+    for (int i = 1; i <= dots.upper(); ++i)
+        if (dots(i).visible) painted_dots.emplace_back(dots(i));
 }

@@ -38,11 +38,18 @@ class OverviewView : public QWidget {
 
   private:
     struct Dot {
-        QRectF box;
-        std::int32_t colour;
+        explicit Dot(const OverviewDot& dot)
+            : left(dot.left), top(dot.top), width(dot.width), height(dot.height), colour(dot.colour) {}
         bool operator==(const Dot&) const = default;
+
+        double left;
+        double top;
+        double width;
+        double height;
+        std::int32_t colour;
     };
-    static std::vector<Dot> visible_dots(const ControlArray<OverviewDot>& all);
+    bool dots_are_painted() const;
+    void take_dots();
     /// All but the box, painted only when something of it has changed: a large campaign has thousands of
     /// fans.
     const QImage& content(double scale);

@@ -4,15 +4,23 @@
 
 namespace {
 
+/// Where the area lies beside its unit, nothing when it has too few points to be one.
+const Bounds& area_bounds(const oUnits& unit) {
+    return unit.area_bounds.get([&] {
+        return unit.area_of_opeartion.count() < 3 ? Bounds::nothing() : box_of(unit.area_of_opeartion);
+    });
+}
+
 void draw_area(Surface& map, const oUnits& unit) {
-    if (unit.area_of_opeartion.count() < 3) return;
+    const Bounds& bounds = area_bounds(unit);
+    if (bounds.is_nothing()) return;
     map.pen.DrawMode = 9;
     map.pen.FillStyle = 0;
     map.pen.DrawWidth = 1;
     map.pen.FillColor = unit.color;
     map.pen.ForeColor = 0;
-    draw_closed(map, unit.area_of_opeartion,
-                [&](const oCoordinates& vertex) { return place_in_area(unit, vertex); });
+    if (map.wants(bounds.moved_by(place_of(unit)).grown_by(2)))
+        draw_closed(map, unit.area_of_opeartion, place_of(unit));
 }
 
 } // namespace
@@ -27,8 +35,7 @@ void draw_area_being_drawn(Program& program, Painting& painting) {
     const oUnits& unit = *program.campaign.curUnit;
     painting.map.pen.DrawWidth = 1;
     painting.map.pen.ForeColor = 0;
-    draw_path(painting.map, unit.area_of_opeartion,
-              [&](const oCoordinates& vertex) { return place_in_area(unit, vertex); });
+    draw_path(painting.map, unit.area_of_opeartion, place_of(unit));
 }
 
 bool selected_area_is_shown(const Program& program) {

@@ -50,6 +50,5 @@ bool path_is_measured(const Program& program) {
 void draw_measured_path(Program& program, Painting& painting) {
     painting.map.pen.DrawWidth = 2;
     painting.map.pen.ForeColor = 0;
-    draw_path(painting.map, program.campaign.colPathPoints,
-              [](const oCoordinates& vertex) { return place_of(vertex); });
+    draw_path(painting.map, program.campaign.colPathPoints);
 }

@@ -3,50 +3,72 @@
 #include "core/numbers.h"
 #include "core/unit_place.h"
 
+#include <array>
+
 namespace {
 
 void draw_route(Surface& map, const oUnits& unit) {
     map.pen.DrawWidth = 3;
     map.pen.ForeColor = unit.color;
     map.line(place_of(unit), place_of(*unit.waypoints->at(1)));
-    draw_path(map, unit.waypoints, [](const oWaypoint& waypoint) { return place_of(waypoint); });
+    draw_path(map, unit.waypoints);
 }
 
-/// What the three texts of a waypoint can touch.
-Bounds texts_bounds(const oWaypoint& waypoint, Point at, int font_size) {
-    constexpr std::size_t numbers_and_words = 60;
-    const std::size_t letters = numbers_and_words + waypoint.end_month.size() + waypoint.end_day.size() +
-                                waypoint.end_hour.size() + waypoint.end_minute.size() + waypoint.notes.size();
-    return text_bounds({at.x - 60, at.y + 8}, letters, font_size);
+/// The texts of a waypoint, one below the other.
+std::array<std::string, 3> texts_of(const oWaypoint& waypoint) {
+    return {waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour + ":" +
+                waypoint.end_minute,
+            format_fixed(waypoint.range / 1000.0, 1, 2) + " Km, at " + number_text(waypoint.speed) + " Km/H",
+            waypoint.notes};
+}
+
+Point place_of_text(const oWaypoint& waypoint, std::size_t number) {
+    constexpr std::array<double, 3> below{8, 20, 32};
+    return {place_of(waypoint).x - 60, place_of(waypoint).y + below.at(number)};
 }
 
 void print_waypoint(Surface& map, const oWaypoint& waypoint) {
-    const Point at = place_of(waypoint);
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
-    // Most are settled by where their texts begin, without a look at these.
-    const double em = 2.0 * map.pen.FontSize;
-    if (at.x - 60 - em > map.wanted.right || at.y + 8 - em > map.wanted.bottom) return;
-    if (!map.wants(texts_bounds(waypoint, at, map.pen.FontSize))) return;
-    map.print({at.x - 60, at.y + 8}, waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour +
-                                         ":" + waypoint.end_minute);
-    map.print({at.x - 60, at.y + 20}, format_fixed(waypoint.range / 1000.0, 1, 2) + " Km, at " +
-                                          number_text(waypoint.speed) + " Km/H");
-    map.print({at.x - 60, at.y + 32}, waypoint.notes);
+    const auto texts = texts_of(waypoint);
+    for (std::size_t i = 0; i < texts.size(); ++i) map.print(place_of_text(waypoint, i), texts[i]);
 }
 
-void draw_unit_waypoints(const Program& program, Surface& map, const oUnits& unit) {
-    if (unit.waypoints.empty()) return;
-    draw_route(map, unit);
-    map.pen.DrawWidth = 1;
-    map.pen.ForeColor = 0;
-    map.pen.FillColor = 0;
-    map.pen.FillStyle = 0;
+/// Where marks and texts of the unit's waypoints lie, nothing when it has none.
+const Bounds& route_bounds(const oUnits& unit) {
+    constexpr int largest_size = 12; // no layer writes in larger letters
+    return unit.route_bounds.get([&] {
+        Bounds bounds = Bounds::nothing();
+        if (unit.waypoints.empty()) return bounds;
+        for (const auto& waypoint : unit.waypoints) {
+            bounds = bounds.with(bounds_of(place_of(*waypoint)));
+            const auto texts = texts_of(*waypoint);
+            for (std::size_t i = 0; i < texts.size(); ++i)
+                bounds = bounds.with(text_bounds(place_of_text(*waypoint, i), texts[i], largest_size));
+        }
+        return bounds;
+    });
+}
+
+void draw_points(const Program& program, Surface& map, const oUnits& unit) {
     for (const auto& waypoint : unit.waypoints) {
         map.circle(place_of(*waypoint), 3);
         if (program.campaign.gDispWayptData) print_waypoint(map, *waypoint);
     }
+}
+
+void draw_unit_waypoints(const Program& program, Surface& map, const oUnits& unit) {
+    const Bounds& bounds = route_bounds(unit);
+    if (bounds.is_nothing()) return;
+    const bool wanted = map.wants(bounds.with(bounds_of(place_of(unit))).grown_by(4));
+    if (wanted) draw_route(map, unit);
+    map.pen.DrawWidth = 1;
+    map.pen.ForeColor = 0;
+    map.pen.FillColor = 0;
+    map.pen.FillStyle = 0;
+    if (wanted) draw_points(program, map, unit);
     map.pen.FillStyle = 1;
+    if (program.campaign.gDispWayptData) map.pen.FontBold = true;
 }
 
 /// The waypoints of the unit in hand are left out while they are being set: a layer of their own shows them.

@@ -119,7 +119,7 @@ void draw_overview(Program& program, Painting& painting) {
         for (const auto& each : program.campaign.colUnits)
             draw_fans(painting, *each,
                       [&](const oUnits& unit) { draw_unit_on_overview(program, painting.overview, unit); });
-    if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting.overview);
+    if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting);
 }
 
 bool firefans_are_shown(const Program& program) { return program.campaign.gDispFirefans; }

@@ -80,7 +80,7 @@ std::shared_ptr<oUnitForceElements> read_force_element(FieldReader& in, std::str
     return element;
 }
 
-std::shared_ptr<oWaypoint> read_waypoint(FieldReader& in) {
+std::shared_ptr<const oWaypoint> read_waypoint(FieldReader& in) {
     auto waypoint = std::make_shared<oWaypoint>();
     waypoint->end_day = in.text();
     waypoint->end_hour = in.text();

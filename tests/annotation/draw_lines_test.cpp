@@ -128,9 +128,48 @@ TEST_F(Drawing, OverviewLinesArePlainThinAndScaledByTheWidths) {
     line->linewidth = 9;
     line->linestyle = 2;
     add_line({{0, 0}});
-    draw_overview_lines(program, painting.overview);
+    draw_overview_lines(program, painting);
     EXPECT_EQ(told(painting.overview), Told{"line 0,0 10,20"});
     EXPECT_EQ(told(painting.overview.figures()[0].pen), "fore 77 fill 0 style 1 dash 1 width 1 mode 13");
+}
+
+TEST_F(Drawing, OverviewLinesFollowEachChange) {
+    const auto first = add_line({{0, 0}, {240, 480}});
+    const auto second = add_line({{0, 0}, {480, 0}});
+    const auto shown = [&] {
+        painting.overview.clear();
+        draw_overview_lines(program, painting);
+        return told(painting.overview);
+    };
+    EXPECT_EQ(shown(), (Told{"line 0,0 10,20", "line 0,0 20,0"}));
+    EXPECT_EQ(shown(), (Told{"line 0,0 10,20", "line 0,0 20,0"})) << "drawn again as they were";
+    second->colCoords->at(2)->y_cor = 240;
+    EXPECT_EQ(shown().back(), "line 0,0 20,10");
+    second->linecolor = 5;
+    second->linestyle = 3;
+    EXPECT_EQ(shown().size(), 2U);
+    EXPECT_EQ(painting.overview.figures()[1].pen.ForeColor, 5);
+    EXPECT_EQ(painting.overview.figures()[1].pen.DrawStyle, 2);
+    painting.overview.pen.DrawMode = 9;
+    EXPECT_EQ(shown().size(), 2U);
+    EXPECT_EQ(painting.overview.figures()[0].pen.DrawMode, 9) << "of a fan before them";
+    EXPECT_EQ(painting.overview.pen.ForeColor, 5) << "what the last line leaves";
+    program.campaign.colLines->remove_at(1);
+    EXPECT_EQ(shown(), Told{"line 0,0 20,10"});
+    program.main.picMap.width *= 2;
+    EXPECT_EQ(shown(), Told{"line 0,0 10,5"});
+}
+
+TEST_F(Drawing, ArrowOutOfViewLeavesItsPen) {
+    const auto line = add_line({{5000, 5000}, {5100, 5000}});
+    line->is_arrow = true;
+    line->arrow1_x = line->arrow1_y = line->arrow2_x = line->arrow2_y = 5000;
+    line->linestyle = 2;
+    painting.map.wanted = {0, 0, 100, 100};
+    draw_lines(program, painting);
+    EXPECT_TRUE(painting.map.empty());
+    EXPECT_EQ(painting.map.pen.DrawStyle, 0);
+    EXPECT_EQ(painting.map.pen.DrawWidth, line->linewidth);
 }
 
 TEST_F(Drawing, PolygonOfTwoPointsIsNotDrawn) {

@@ -114,3 +114,112 @@ TEST_F(PaintingInView, CoveringTellsNoFailureAgain) {
     cover_view(program);
     EXPECT_EQ(platform.texts().size(), 1U);
 }
+
+namespace {
+
+/// A view of the upper left corner, in which nothing lies at first.
+class ChangedCorners : public PaintingInView {
+  protected:
+    ChangedCorners() {
+        look_at(0, 0, 500, 500);
+        show_routes();
+    }
+
+    void show_routes() {
+        DisplayOptions& options = program.campaign;
+        options.gDispWaypoints = options.gDispWayptAll = options.gDispAoo = options.gDispAooAll = true;
+        options.gDispFireMissions = options.gDispUSZ = program.campaign.gShowGrid = false;
+    }
+
+    static std::shared_ptr<oCoordinates> vertex(int x, int y) {
+        return std::make_shared<oCoordinates>(oCoordinates{x, y});
+    }
+
+    std::shared_ptr<oUnits> far_unit(const std::string& id) {
+        auto unit = add_unit(id);
+        unit->xcoord = unit->ycoord = 4000;
+        return unit;
+    }
+
+    std::size_t seen_now() {
+        picMap_Paint(program);
+        return seen({0, 0, 500, 500}).size();
+    }
+};
+
+} // namespace
+
+TEST_F(ChangedCorners, OfALineAreSeenAtTheNextPaint) {
+    auto line = std::make_shared<oLines>();
+    for (const int x : {4000, 4100}) line->colCoords->add(vertex(x, 4000));
+    program.campaign.colLines->add(line);
+    EXPECT_EQ(seen_now(), 0U);
+    line->colCoords->at(1)->x_cor = 100;
+    EXPECT_EQ(seen_now(), 0U);
+    line->colCoords->at(1)->y_cor = 100;
+    EXPECT_EQ(seen_now(), 1U) << "moved in its place";
+    line->colCoords->remove_at(1);
+    EXPECT_EQ(seen_now(), 0U) << "taken out";
+    line->colCoords->insert_after(0, vertex(100, 100));
+    EXPECT_EQ(seen_now(), 0U) << "two again, one of them in view";
+    line->colCoords->add(vertex(4000, 4000));
+    EXPECT_EQ(seen_now(), 2U);
+    line->colCoords.drop();
+    EXPECT_EQ(seen_now(), 0U);
+}
+
+TEST_F(ChangedCorners, OfARouteAreSeenAtTheNextPaint) {
+    const auto unit = far_unit("{1}");
+    oWaypoint waypoint;
+    waypoint.ID = "{W}";
+    waypoint.X = waypoint.Y = 4100;
+    unit->waypoints->add(std::make_shared<oWaypoint>(waypoint), waypoint.ID);
+    EXPECT_EQ(seen_now(), 0U);
+    waypoint.X = waypoint.Y = 100;
+    unit->waypoints->remove("{W}");
+    unit->waypoints->add(std::make_shared<oWaypoint>(waypoint), waypoint.ID);
+    EXPECT_EQ(seen_now(), 2U) << "the way and its end";
+    program.campaign.gDispWayptData = true;
+    EXPECT_EQ(seen_now(), 5U);
+    unit->xcoord = unit->ycoord = 50;
+    unit->waypoints->clear();
+    EXPECT_EQ(seen_now(), 0U);
+}
+
+TEST_F(ChangedCorners, TextsOfAWaypointFarToTheLeftAreSeen) {
+    look_at(3000, 3000, 500, 500);
+    program.campaign.gDispWayptData = true;
+    oWaypoint waypoint;
+    waypoint.X = 1500;
+    waypoint.Y = 3100;
+    waypoint.notes = std::string(200, 'W');
+    const auto unit = add_unit("{1}");
+    unit->xcoord = unit->ycoord = 1500;
+    unit->waypoints->add(std::make_shared<oWaypoint>(waypoint), "{W}");
+    picMap_Paint(program);
+    const auto texts = seen({3000, 3000, 3500, 3500});
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(texts[0].starts_with("text 1440,3132 WWW"));
+}
+
+TEST_F(ChangedCorners, OfAnAreaAreSeenAtTheNextPaint) {
+    const auto unit = far_unit("{1}");
+    const auto copy = far_unit("{2}");
+    for (const auto& [x, y] : {std::pair(0, 0), {60, 0}, {0, 60}}) {
+        unit->area_of_opeartion->add(vertex(x, y));
+        copy->area_of_opeartion->add(unit->area_of_opeartion->at(unit->area_of_opeartion.count()));
+    }
+    EXPECT_EQ(seen_now(), 0U);
+    for (const auto& shared : unit->area_of_opeartion) {
+        shared->x_cor = shared->x_cor - 3900;
+        shared->y_cor = shared->y_cor - 3900;
+    }
+    EXPECT_EQ(seen_now(), 2U) << "units can have the same points";
+    const auto other = far_unit("{3}");
+    other->area_of_opeartion = unit->area_of_opeartion;
+    EXPECT_EQ(seen_now(), 3U) << "or the same list of them";
+    copy->area_of_opeartion.drop();
+    EXPECT_EQ(seen_now(), 2U);
+    unit->xcoord = 3000;
+    EXPECT_EQ(seen_now(), 1U) << "areas go with their unit";
+}

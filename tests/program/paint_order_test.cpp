@@ -2,7 +2,6 @@
 
 #include "tests/support/figures.h"
 #include "tests/support/map_test.h"
-#include "tools/support/spread_campaign.h"
 
 namespace {
 
