@@ -65,16 +65,19 @@ std::vector<OverviewLines::Line> lines_to_show(const Program& program) {
     return shown;
 }
 
-void draw_small(Surface& overview, const OverviewLines::Source& source) {
+std::shared_ptr<const DrawingList> drawn_small(const OverviewLines::Source& source) {
+    auto overview = std::make_shared<DrawingList>();
+    overview->pen = source.pen;
     for (const auto& [line, colour, style] : source.lines) {
-        overview.pen.ForeColor = colour;
-        overview.pen.DrawStyle = style;
-        overview.pen.DrawWidth = 1;
-        overview.scratch.clear();
+        overview->pen.ForeColor = colour;
+        overview->pen.DrawStyle = style;
+        overview->pen.DrawWidth = 1;
+        overview->scratch.clear();
         for (const auto& vertex : line->colCoords)
-            overview.scratch.push_back({vertex->x_cor * source.ratio, vertex->y_cor * source.ratio});
-        overview.path(overview.scratch);
+            overview->scratch.push_back({vertex->x_cor * source.ratio, vertex->y_cor * source.ratio});
+        overview->path(overview->scratch);
     }
+    return overview;
 }
 
 } // namespace
@@ -105,11 +108,9 @@ void draw_overview_lines(const Program& program, Painting& painting) {
     OverviewLines& kept = painting.overview_lines;
     OverviewLines::Source source{lines_to_show(program), CornerChanges::count(), ratio,
                                  painting.overview.pen};
-    if (!(source == kept.source)) {
+    if (!kept.figures || !(source == kept.source)) {
+        kept.figures = drawn_small(source);
         kept.source = std::move(source);
-        kept.figures.clear();
-        kept.figures.pen = kept.source.pen;
-        draw_small(kept.figures, kept.source);
     }
-    painting.overview.append(kept.figures);
+    painting.overview.insert(kept.figures);
 }

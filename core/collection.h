@@ -37,26 +37,25 @@ template <class T> class Collection {
   public:
     using Item = std::shared_ptr<T>;
 
-    class Iterator {
+    /// A walk over records that lie all over the memory: it asks for the front of each, which is what most
+    /// walks want, some steps before it gets there. So a large campaign is walked about as quickly, record
+    /// for record, as a small one.
+    template <std::size_t front> class Walk {
       public:
-        Iterator(const Item* item, const Item* end) : item(item), end(end) {}
+        Walk(const Item* item, const Item* end) : item(item), end(end) {}
         const Item& operator*() const { return *item; }
-        Iterator& operator++() {
+        Walk& operator++() {
             ++item;
             if (end - item > look_ahead) fetch(item[look_ahead].get());
             return *this;
         }
-        bool operator!=(const Iterator& other) const { return item != other.item; }
+        bool operator!=(const Walk& other) const { return item != other.item; }
 
       private:
-        // The records lie all over the memory. A walk asks for one a few steps before it gets there, so that
-        // it need not wait: a large campaign is then walked about as quickly, record for record, as a small
-        // one.
         static constexpr std::ptrdiff_t look_ahead = 8;
         static void fetch(const T* record) {
-            constexpr std::size_t line = 64;
             const auto* const bytes = reinterpret_cast<const char*>(record);
-            for (std::size_t at = 0; at < std::min(2 * line, sizeof(T)); at += line)
+            for (std::size_t at = 0; at < std::min(front, sizeof(T)); at += cache_line)
                 __builtin_prefetch(bytes + at);
         }
 
@@ -64,17 +63,29 @@ template <class T> class Collection {
         const Item* end;
     };
 
+    static constexpr std::size_t cache_line = 64;
+    using Iterator = Walk<2 * cache_line>;
+
+    /// The collection for a walk that looks at all of each record.
+    class Whole {
+      public:
+        using Iterator = Walk<static_cast<std::size_t>(-1)>;
+
+        explicit Whole(const Collection& collection) : collection(collection) {}
+        Iterator begin() const { return collection.walk<Iterator>(0); }
+        Iterator end() const { return collection.walk<Iterator>(collection.count()); }
+
+      private:
+        const Collection& collection;
+    };
+
     std::size_t count() const { return records.size() - gaps; }
     bool empty() const { return count() == 0; }
 
     /// A walk in order. The collection must not change meanwhile: a walk that changes it goes over `items()`.
-    Iterator begin() const {
-        close_gaps();
-        return Iterator(records.data(), records.data() + records.size());
-    }
-    Iterator end() const {
-        return Iterator(records.data() + records.size(), records.data() + records.size());
-    }
+    Iterator begin() const { return walk<Iterator>(0); }
+    Iterator end() const { return walk<Iterator>(count()); }
+    Whole whole() const { return Whole(*this); }
 
     /// The records as they stand now.
     std::vector<Item> items() const {
@@ -175,6 +186,11 @@ template <class T> class Collection {
     // Most collections belong to one unit and hold a handful of records: comparing so few keys is quicker
     // than hashing one, and thousands of units then carry no hash table.
     static constexpr std::size_t largest_without_index = 8;
+
+    template <class Walk> Walk walk(std::size_t from) const {
+        close_gaps();
+        return {records.data() + from, records.data() + records.size()};
+    }
 
     static void note_change() {
         if constexpr (is_corner<T>) CornerChanges::add_one();

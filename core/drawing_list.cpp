@@ -89,20 +89,13 @@ void DrawingList::clear() {
     pens.clear();
     points.clear();
     letters.clear();
+    lists.clear();
 }
 
-void DrawingList::append(const DrawingList& other) {
-    const auto offset = [](const auto& row) { return static_cast<std::uint32_t>(row.size()); };
-    for (Entry entry : other.entries) {
-        entry.pen += offset(pens);
-        entry.first += offset(points);
-        entry.first_letter += offset(letters);
-        entries.push_back(entry);
-    }
-    pens.insert(pens.end(), other.pens.begin(), other.pens.end());
-    points.insert(points.end(), other.points.begin(), other.points.end());
-    letters += other.letters;
-    pen = other.pen;
+void DrawingList::insert(std::shared_ptr<const DrawingList> list) {
+    entries.push_back({Kind::list, 0, static_cast<std::uint32_t>(lists.size()), 0, 0});
+    pen = list->pen;
+    lists.push_back(std::move(list));
 }
 
 std::vector<DrawingList::Figure> DrawingList::figures() const {
@@ -113,7 +106,7 @@ std::vector<DrawingList::Figure> DrawingList::figures() const {
 
 bool DrawingList::same_figures(const DrawingList& other) const {
     return entries == other.entries && points == other.points && pens == other.pens &&
-           letters == other.letters;
+           letters == other.letters && lists == other.lists;
 }
 
 Bounds DrawingList::bounds_of_entry(const Entry& entry) const {
@@ -148,11 +141,17 @@ void DrawingList::draw(const Entry& entry, Surface& target) const {
     case Kind::print:
         target.print(at[0], letters.substr(entry.first_letter, entry.count));
         break;
+    case Kind::list: // replayed as a whole
+        break;
     }
 }
 
 void DrawingList::replay(Surface& target) const {
     for (const Entry& entry : entries) {
+        if (entry.kind == Kind::list) {
+            lists[entry.first]->replay(target);
+            continue;
+        }
         if (!target.wants(bounds_of_entry(entry))) continue;
         target.pen = pens[entry.pen];
         draw(entry, target);

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,7 @@
 /// The window replays the figures that are in view, as often as the map is scrolled or uncovered.
 class DrawingList : public Surface {
   public:
-    enum class Kind : std::uint8_t { line, circle, pie, polygon, print };
+    enum class Kind : std::uint8_t { line, circle, pie, polygon, print, list };
 
     /// One figure as it was drawn.
     struct Figure {
@@ -33,8 +34,8 @@ class DrawingList : public Surface {
 
     /// Removes the figures; the pen stays.
     void clear();
-    /// Takes over the figures and the pen of another list.
-    void append(const DrawingList& other);
+    /// Draws a list that was kept, as one figure that leaves that list's pen.
+    void insert(std::shared_ptr<const DrawingList> list);
 
     bool empty() const { return entries.empty(); }
     std::vector<Figure> figures() const;
@@ -49,7 +50,8 @@ class DrawingList : public Surface {
     struct Entry {
         Kind kind;
         std::uint32_t pen;
-        std::uint32_t first; // of its points; a circle's radius and a pie's angles stand behind its centre
+        std::uint32_t
+            first; // of its points, or its list; a circle's radius and a pie's angles stand behind its centre
         std::uint32_t count; // of the points of a line or polygon, of the letters of a text
         std::uint32_t first_letter;
 
@@ -64,4 +66,5 @@ class DrawingList : public Surface {
     std::vector<Pen> pens;
     std::vector<Point> points;
     std::string letters;
+    std::vector<std::shared_ptr<const DrawingList>> lists;
 };

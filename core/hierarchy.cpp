@@ -80,8 +80,8 @@ void check_hierarchy(Program& program) {
     trap(program, " when checking HQ/Subordinate links.", [&] {
         const Collection<oUnits>& units = *program.campaign.colUnits;
         int fixed = 0;
-        for (const auto& unit : units) fixed += check_children(units, *unit);
-        for (const auto& unit : units) fixed += check_parent(units, *unit);
+        for (const auto& unit : units.whole()) fixed += check_children(units, *unit);
+        for (const auto& unit : units.whole()) fixed += check_parent(units, *unit);
         if (fixed > 0)
             program.platform.message(
                 {"Found and fixed a total of " + std::to_string(fixed) + " errors in the unit hierarchy."});
@@ -91,10 +91,10 @@ void check_hierarchy(Program& program) {
 void assign_new_ids(Program& program) {
     trap(program, " when assigning new IDs.", [&] {
         Collection<oUnits> waiting;
-        for (const auto& unit : *program.campaign.colUnits) waiting.add(unit, unit->ID);
+        for (const auto& unit : program.campaign.colUnits->whole()) waiting.add(unit, unit->ID);
         program.campaign.colUnits.drop();
         const Renumbering units{*program.campaign.colUnits, waiting};
-        for (const auto& unit : waiting) renumber(program, units, unit);
+        for (const auto& unit : waiting.whole()) renumber(program, units, unit);
     });
 }
 

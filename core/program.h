@@ -46,7 +46,7 @@ struct OverviewLines {
     };
 
     Source source;
-    DrawingList figures;
+    std::shared_ptr<const DrawingList> figures;
 };
 
 /// What the layers draw on. The overview's and the rulers' pens are their own.

@@ -67,8 +67,8 @@ struct oUnits {
     std::int32_t color = 0;
     std::int16_t xcoord = 0; // the centre
     std::int16_t ycoord = 0;
-    std::int16_t img_index = 0;       // index of the marker; a value of this run, in no file
-    std::int16_t state = 0;           // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
+    std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
+    std::int16_t state = 0;     // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
     CollectionRef<oUnitForceElements> force_elements;
     FromCorners<Bounds> route_bounds; // of all that is drawn for its waypoints
     FromCorners<Bounds> area_bounds;  // of its area, as offsets from the unit

@@ -26,7 +26,7 @@ struct MainFile {
         write_count(record, left_out ? 0 : records.count());
         flush();
         if (left_out || records.empty()) return;
-        for (const auto& one : records) {
+        for (const auto& one : records->whole()) {
             write(record, *one);
             flush();
         }
