@@ -89,13 +89,12 @@ void DrawingList::clear() {
     pens.clear();
     points.clear();
     letters.clear();
-    lists.clear();
+    inserted.clear();
 }
 
 void DrawingList::insert(std::shared_ptr<const DrawingList> list) {
-    entries.push_back({Kind::list, 0, static_cast<std::uint32_t>(lists.size()), 0, 0});
     pen = list->pen;
-    lists.push_back(std::move(list));
+    inserted.push_back({entries.size(), std::move(list)});
 }
 
 std::vector<DrawingList::Figure> DrawingList::figures() const {
@@ -106,7 +105,7 @@ std::vector<DrawingList::Figure> DrawingList::figures() const {
 
 bool DrawingList::same_figures(const DrawingList& other) const {
     return entries == other.entries && points == other.points && pens == other.pens &&
-           letters == other.letters && lists == other.lists;
+           letters == other.letters && inserted == other.inserted;
 }
 
 Bounds DrawingList::bounds_of_entry(const Entry& entry) const {
@@ -141,19 +140,15 @@ void DrawingList::draw(const Entry& entry, Surface& target) const {
     case Kind::print:
         target.print(at[0], letters.substr(entry.first_letter, entry.count));
         break;
-    case Kind::list: // replayed as a whole
-        break;
     }
 }
 
 void DrawingList::replay(Surface& target) const {
-    for (const Entry& entry : entries) {
-        if (entry.kind == Kind::list) {
-            lists[entry.first]->replay(target);
-            continue;
-        }
-        if (!target.wants(bounds_of_entry(entry))) continue;
-        target.pen = pens[entry.pen];
-        draw(entry, target);
+    auto next = inserted.begin();
+    for (std::size_t i = 0; i <= entries.size(); ++i) {
+        for (; next != inserted.end() && next->before == i; ++next) next->list->replay(target);
+        if (i == entries.size() || !target.wants(bounds_of_entry(entries[i]))) continue;
+        target.pen = pens[entries[i].pen];
+        draw(entries[i], target);
     }
 }

@@ -12,7 +12,7 @@
 /// The window replays the figures that are in view, as often as the map is scrolled or uncovered.
 class DrawingList : public Surface {
   public:
-    enum class Kind : std::uint8_t { line, circle, pie, polygon, print, list };
+    enum class Kind : std::uint8_t { line, circle, pie, polygon, print };
 
     /// One figure as it was drawn.
     struct Figure {
@@ -34,10 +34,10 @@ class DrawingList : public Surface {
 
     /// Removes the figures; the pen stays.
     void clear();
-    /// Draws a list that was kept, as one figure that leaves that list's pen.
+    /// Draws all that a kept list holds, and takes its pen.
     void insert(std::shared_ptr<const DrawingList> list);
 
-    bool empty() const { return entries.empty(); }
+    bool empty() const { return entries.empty() && inserted.empty(); }
     std::vector<Figure> figures() const;
     bool same_figures(const DrawingList& other) const;
 
@@ -50,12 +50,19 @@ class DrawingList : public Surface {
     struct Entry {
         Kind kind;
         std::uint32_t pen;
-        std::uint32_t
-            first; // of its points, or its list; a circle's radius and a pie's angles stand behind its centre
+        std::uint32_t first; // of its points; a circle's radius and a pie's angles stand behind its centre
         std::uint32_t count; // of the points of a line or polygon, of the letters of a text
         std::uint32_t first_letter;
 
         bool operator==(const Entry&) const = default;
+    };
+
+    /// A list that is drawn before the entry of this number.
+    struct Inserted {
+        std::size_t before;
+        std::shared_ptr<const DrawingList> list;
+
+        bool operator==(const Inserted&) const = default;
     };
 
     void keep(Kind kind, std::size_t count);
@@ -66,5 +73,5 @@ class DrawingList : public Surface {
     std::vector<Pen> pens;
     std::vector<Point> points;
     std::string letters;
-    std::vector<std::shared_ptr<const DrawingList>> lists;
+    std::vector<Inserted> inserted;
 };
