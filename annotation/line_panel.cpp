@@ -167,7 +167,8 @@ void cmdLineColor_Click(Program& program) {
     ColourBox& shown = program.main.picLineColor;
     const int number =
         failure_of([&] { shown.back_colour = program.platform.colour_dialog(shown.back_colour); });
-    if (number == failure::cancelled) return;
-    if (number != 0) show_failure(program, number, " when drawing lines.");
-    update_line_sample(program);
+    if (number == 0)
+        update_line_sample(program);
+    else if (number != failure::cancelled)
+        show_failure(program, number, " when drawing lines.");
 }

@@ -89,8 +89,8 @@ struct Toolbar {
 };
 
 /// The titles of the popup menus; all other titles stand in the menu bar.
-inline constexpr const char* unit_popup = "Unit menu";
-inline constexpr const char* overview_popup = "Overview Popup";
+inline constexpr const char* mnuUnitPopup = "Unit menu";
+inline constexpr const char* mnuOverviewPopup = "Overview Popup";
 
 /// The entries of the menu bar and of the two popup menus.
 struct Menus {

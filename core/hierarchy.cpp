@@ -98,9 +98,14 @@ void assign_new_ids(Program& program) {
     });
 }
 
-void mnuCheckHQSub_Click(Program& program) { check_hierarchy(program); }
+// Most repairs are silent, and layers show links: the map is painted anew.
+void mnuCheckHQSub_Click(Program& program) {
+    check_hierarchy(program);
+    program.main.picMap.Refresh();
+}
 
 void mnuChangeUnitID_Click(Program& program) {
     check_hierarchy(program);
     assign_new_ids(program);
+    program.main.picMap.Refresh();
 }

@@ -67,36 +67,28 @@ bool is_tomb(const Program& program, int index) {
 
 void imgUnit_MouseDown(Program& program, int index, const MapPress& press) {
     if (offer(program, press, press_on::marker_first) == Outcome::done) return;
-    if (press.button == left_button && press.shift == ctrl_key) {
+    const bool tomb = is_tomb(program, index);
+    if (press.button == left_button && press.shift == ctrl_key && !tomb) {
         toggle_selection(program, index);
         return;
     }
-    if (is_tomb(program, index)) {
+    const auto& selected = program.campaign.colSelectedUnits;
+    if (press.shift != ctrl_key && selected.count() < 2 && !tomb) clear_selection(program);
+    if (offer(program, press, press_on::marker_middle) == Outcome::done) return;
+    if (!tomb) take_in_hand(program, index, press);
+    if (offer(program, press, press_on::marker_last) == Outcome::done) return;
+    if (tomb) {
         show_unit_info(program, program.main.imgUnit(index).tag); // which tells that there is none
         return;
     }
-    const auto& selected = program.campaign.colSelectedUnits;
-    if (press.shift != ctrl_key && selected.count() < 2) clear_selection(program);
-    if (offer(program, press, press_on::marker_middle) == Outcome::done) return;
-    take_in_hand(program, index, press);
-    if (offer(program, press, press_on::marker_last) == Outcome::done) return;
     if (selected.count() < 2)
         select_alone(program, program.campaign.colUnits->item(program.main.imgUnit(index).tag));
-    if (press.button == right_button) program.platform.popup_menu(unit_popup);
-}
-
-void stretch_temp_lines(frmMain& main, const MapPress& press) {
-    for (LineControl* line : {&main.linTempLine, &main.linTempLine2}) {
-        if (!line->visible) continue;
-        line->x2 = press.x;
-        line->y2 = press.y;
-    }
+    if (press.button == right_button) program.platform.popup_menu(mnuUnitPopup);
 }
 
 /// What every move over the map does, whatever stands there.
 void follow_pointer(Program& program, const MapPress& press) {
     edge_scroll(program, press.x, press.y);
-    stretch_temp_lines(program.main, press);
     for (const MoveRow& row : program.tool_order.moves)
         if (row.applies(program)) row.act(program, press);
 }
@@ -145,9 +137,7 @@ Point dragged_centre(const Program& program, double x, double y) {
     return {x - main.label_grab_x + label->width / 2, y - main.label_grab_y + label->height / 2};
 }
 
-/// Labels stay on the map: overview and tray take markers only.
-void drop_label(Program& program, DropSite site, double x, double y) {
-    if (site != DropSite::map) return;
+void drop_label(Program& program, double x, double y) {
     if (program.main.dragged.kind == TargetKind::label)
         move_label(program, program.main.dragged.index, x, y);
     else
@@ -233,6 +223,7 @@ void drag_over(Program& program, DropSite site, double x, double y) {
     trap(program, " when moving a unit.", [&] {
         frmMain& main = program.main;
         if (site == DropSite::nowhere || site == DropSite::tray) return;
+        if (site == DropSite::overview && dragged_label(main) != nullptr) return;
         Point centre{x, y};
         if (site == DropSite::overview) {
             centre = map_place(program, x, y);
@@ -251,11 +242,13 @@ void drag_over(Program& program, DropSite site, double x, double y) {
 void drag_drop(Program& program, DropSite site, double x, double y) {
     program.main.dragging = false;
     trap(program, " when moving a unit.", [&] {
-        if (site == DropSite::nowhere) return;
-        if (dragged_label(program.main) == nullptr)
-            drop_unit(program, site, x, y);
+        const bool label = dragged_label(program.main) != nullptr;
+        // Labels stay on the map: overview and tray take markers only.
+        if (site == DropSite::nowhere || (label && site != DropSite::map)) return;
+        if (label)
+            drop_label(program, x, y);
         else
-            drop_label(program, site, x, y);
+            drop_unit(program, site, x, y);
         program.main.picMap.Refresh();
     });
 }

@@ -27,6 +27,14 @@ Outcome press_starts_pan(Program& program, const MapPress& press) {
     return Outcome::goes_on;
 }
 
+void stretch_rubber_lines(Program& program, const MapPress& press) {
+    for (LineControl* line : {&program.main.linTempLine, &program.main.linTempLine2}) {
+        if (!line->visible) continue;
+        line->x2 = press.x;
+        line->y2 = press.y;
+    }
+}
+
 bool element_is_transferred(const Program& program) { return program.main.transferring_fe; }
 
 Outcome press_aborts_transfer(Program& program, const MapPress& /*press*/) {

@@ -14,6 +14,9 @@ Outcome press_closes_panel(Program& program, const MapPress& press);
 /// A right press is where a pan starts.
 Outcome press_starts_pan(Program& program, const MapPress& press);
 
+/// The free ends of the rubber lines follow the pointer.
+void stretch_rubber_lines(Program& program, const MapPress& press);
+
 /// While an element is being transferred a press on the map asks whether to give that up.
 bool element_is_transferred(const Program& program);
 Outcome press_aborts_transfer(Program& program, const MapPress& press);

@@ -44,7 +44,7 @@ void center_map_on_overview(Program& program, double x, double y) {
 }
 
 void picOverviewmap_MouseDown(Program& program, const MapPress& press) {
-    if (press.button == right_button) program.platform.popup_menu(overview_popup);
+    if (press.button == right_button) program.platform.popup_menu(mnuOverviewPopup);
 }
 
 void picOverviewmap_MouseMove(Program& program, const MapPress& press) {

@@ -126,8 +126,8 @@ void clear_panel(Program& program) {
 
 void show_identity(Program& program, const oUnits& unit) {
     UnitInfoPanel& panel = program.main;
-    if (program.main.imgUnit.has(unit.img_index))
-        panel.imgUIunit = program.main.imgUnit(unit.img_index).picture;
+    const bool has_marker = program.main.imgUnit.has(unit.img_index);
+    panel.imgUIunit = has_marker ? program.main.imgUnit(unit.img_index).picture : PictureId{};
     panel.lblUIunitname.caption = full_name(unit);
     panel.lblUIparentname.caption =
         unit.parent_ID.empty() ? "" : full_name(*program.campaign.colUnits->item(unit.parent_ID));
@@ -234,6 +234,7 @@ void locate_unit(Program& program, const std::string& id) {
     const auto unit = program.campaign.colUnits->item(id);
     for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) program.main.imgUnit(i).border_style = 0;
     center_map_on(program, unit->xcoord, unit->ycoord);
+    program.main.imgUnit(unit->img_index).border_style = 1;
     program.campaign.colSelectedUnits.drop();
     select_unit(program, unit);
     set_menus_by_count(program);

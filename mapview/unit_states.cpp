@@ -44,7 +44,6 @@ void mnuUnitState_Click(Program& program) {
         main.mnuUnitState.checked = !main.mnuUnitState.checked;
         main.shpUnitState.unload_from(1);
         refresh_unit_states(program);
-        main.picMap.Refresh();
     });
 }
 

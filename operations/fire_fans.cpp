@@ -49,10 +49,16 @@ bool is_current(const Program& program, const oUnitForceElements& element) {
     return program.campaign.curUFE.get() == &element;
 }
 
+/// A unit that was loaded without a marker has none, and its index may by now be another one's.
+bool has_own_dot(const frmMain& main, const oUnits& unit) {
+    return unit.img_index > 0 && main.imgUnit.has(unit.img_index) &&
+           main.imgUnit(unit.img_index).tag == unit.ID;
+}
+
 void draw_on_overview(const Program& program, Surface& overview, const oUnits& unit,
                       const oUnitForceElements& element, const oForceElements& piece, std::int32_t colour) {
     const frmMain& main = program.main;
-    if (unit.img_index == 0) return; // it has no dot
+    if (!has_own_dot(main, unit)) return;
     const OverviewDot& dot = main.shpUnit(unit.img_index);
     const double ratio = main.picOverviewmap.scale_width() / main.picMap.width;
     overview.pen.DrawMode = 9;

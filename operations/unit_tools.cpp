@@ -85,8 +85,8 @@ void turn_firefan(Program& program, const MapPress& press) {
     LineControl& rubber = program.main.linTempLine;
     if (unit && !rubber.visible) {
         const Point at = place_of(*unit);
-        rubber.x1 = rubber.x2 = at.x; // the free end follows from the next move on
-        rubber.y1 = rubber.y2 = at.y;
+        rubber.x1 = at.x;
+        rubber.y1 = at.y;
         rubber.visible = true;
     }
     set_firefan_angle(program, press.x, press.y);

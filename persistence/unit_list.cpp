@@ -9,6 +9,8 @@
 #include "persistence/unit_id_question.h"
 
 #include <string>
+#include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace {
@@ -40,10 +42,12 @@ void write_units(const Program& program, const Units& units, OutputFile& file) {
     file.close();
 }
 
-/// Runs `body`; any failure but a cancelled dialog is told.
-template <class Body> void trap_all_but_cancel(Program& program, const char* ending, Body body) {
+/// Runs `body`; any failure but a cancelled dialog is told. Whether it was not cancelled.
+template <class Body> bool trap_all_but_cancel(Program& program, const char* ending, Body body) {
     const int number = failure_of(body);
-    if (number != 0 && number != failure::cancelled) show_failure(program, number, ending, Icon::warning);
+    if (number == failure::cancelled) return false;
+    if (number != 0) show_failure(program, number, ending, Icon::warning);
+    return true;
 }
 
 void save(Program& program, const Units& units) {
@@ -58,21 +62,31 @@ template <class Find> void save_found(Program& program, Find find) {
     });
 }
 
-bool has_all_children(const Selection& selection, const oUnits& unit) {
+using Ids = std::unordered_set<std::string_view>;
+
+/// The IDs that the selected units have now: the selection still holds them under those of their selecting.
+Ids ids_of(const Selection& selection) {
+    Ids ids;
+    for (const auto& unit : selection) ids.insert(unit->ID);
+    return ids;
+}
+
+bool has_all_children(const Ids& selected, const oUnits& unit) {
     if (unit.children.empty()) return true;
     for (const auto& child : unit.children)
-        if (!selection->contains(child->ID)) return false;
+        if (!selected.contains(child->ID)) return false;
     return true;
 }
 
 /// Whether the selection is a whole branch. The flag never returns to true, so that HQs are looked for only
 /// until the first one that is there; users have built their lists on it.
 bool is_whole_branch(const Selection& selection) {
+    const Ids selected = ids_of(selection);
     bool no_parent_yet = true;
     for (const auto& unit : selection) {
-        if (!has_all_children(selection, *unit)) return false;
+        if (!has_all_children(selected, *unit)) return false;
         if (unit->parent_ID.empty()) continue;
-        if (selection->contains(unit->parent_ID)) no_parent_yet = false;
+        if (selected.contains(unit->parent_ID)) no_parent_yet = false;
         if (no_parent_yet) return false;
     }
     return true;
@@ -117,13 +131,13 @@ void mnuSaveSelectedUnits_Click(Program& program) {
 }
 
 void mnuLoadUnits_Click(Program& program) {
-    trap_all_but_cancel(program, " when loading units!", [&] {
+    const bool loaded = trap_all_but_cancel(program, " when loading units!", [&] {
         const std::string path = program.platform.file_dialog(unit_list_dialog(program, false));
         const Hourglass hourglass(program.platform);
         const std::string bytes = program.platform.read_file(path);
         FieldReader in(bytes);
         load_units(program, in);
         check_hierarchy(program);
-        program.main.picMap.Refresh();
     });
+    if (loaded) program.main.picMap.Refresh(); // what a list that broke off has brought is seen, too
 }

@@ -74,7 +74,7 @@ frmMain_window::frmMain_window(Program& program, const Sprites& sprites, EventRu
 QMenu* frmMain_window::menu(const std::string& title) {
     const auto known = menus.find(title);
     if (known != menus.end()) return known->second;
-    const bool popup = title == unit_popup || title == overview_popup;
+    const bool popup = title == mnuUnitPopup || title == mnuOverviewPopup;
     auto* const made = popup ? new QMenu(to_qt(title), this) : menuBar()->addMenu(to_qt(title));
     menus[title] = made;
     return made;

@@ -18,6 +18,8 @@ struct frmStart : Form {
     /// Starts the timer and shows the splash. A failure asks whether to go on with the next statement; No
     /// ends the program.
     void Form_Load();
+    /// Nothing: it stays until the main window takes its place.
+    void close_box() override {}
     /// Its only tick: the work area, the map picture, the main window. Without the map the process ends.
     void tmrTimer_Timer();
 };

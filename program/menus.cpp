@@ -49,13 +49,15 @@ constexpr std::array<MenuRow, 31> rows{{
     {"&Reports", "List all units...", "mnuListUnits", &Main::mnuListUnits, nullptr},
     {"&Help", "About Tolvane II", "mnuAboutTolvaneII", &Main::mnuAboutTolvaneII, mnuAboutTolvaneII_Click},
     {"&Help", "About the map", "mnuAboutMap", &Main::mnuAboutMap, mnuAboutMap_Click},
-    {unit_popup, "Delete...", "mnuUP_delete", &Main::mnuUP_delete, nullptr},
-    {unit_popup, "Edit unit", "mnuUP_edit", &Main::mnuUP_edit, nullptr},
-    {unit_popup, "Delete all...", "mnuUP_delete_all", &Main::mnuUP_delete_all, nullptr},
-    {unit_popup, "Move to...", "mnuUP_moveto", &Main::mnuUP_moveto, mnuUP_moveto_Click},
-    {overview_popup, "Show firefans", "mnuViewFFoverview", &Main::mnuViewFFoverview, mnuViewFFoverview_Click},
-    {overview_popup, "Show lines", "mnuOVPU_showlines", &Main::mnuOVPU_showlines, mnuOVPU_showlines_Click},
-    {overview_popup, "Show units", "mnuOVPU_show_units", &Main::mnuOVPU_show_units, mnuOVPU_show_units_Click},
+    {mnuUnitPopup, "Delete...", "mnuUP_delete", &Main::mnuUP_delete, nullptr},
+    {mnuUnitPopup, "Edit unit", "mnuUP_edit", &Main::mnuUP_edit, nullptr},
+    {mnuUnitPopup, "Delete all...", "mnuUP_delete_all", &Main::mnuUP_delete_all, nullptr},
+    {mnuUnitPopup, "Move to...", "mnuUP_moveto", &Main::mnuUP_moveto, mnuUP_moveto_Click},
+    {mnuOverviewPopup, "Show firefans", "mnuViewFFoverview", &Main::mnuViewFFoverview,
+     mnuViewFFoverview_Click},
+    {mnuOverviewPopup, "Show lines", "mnuOVPU_showlines", &Main::mnuOVPU_showlines, mnuOVPU_showlines_Click},
+    {mnuOverviewPopup, "Show units", "mnuOVPU_show_units", &Main::mnuOVPU_show_units,
+     mnuOVPU_show_units_Click},
 }};
 
 } // namespace

@@ -82,10 +82,12 @@ constexpr std::array<PressRow, 34> presses{{
     {33, map, B2, range_is_checked, press_ends_range},
 }};
 
-constexpr std::array<MoveRow, 3> moves{{
+constexpr std::array<MoveRow, 4> moves{{
+    // applies when          does
+    {firefan_tool_is_on, turn_firefan},
+    {always, stretch_rubber_lines}, // before the readouts, so that one move shows the right range
     {leg_is_measured, show_leg},
     {path_range_is_checked, show_path},
-    {firefan_tool_is_on, turn_firefan},
 }};
 
 } // namespace

@@ -262,3 +262,12 @@ TEST_F(Hierarchy, FailureInTheCheckIsToldAndEarlierRepairsStay) {
     EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when checking HQ/Subordinate links."});
     EXPECT_EQ(child->parent_ID, "H");
 }
+
+TEST_F(Hierarchy, BothCommandsPaintTheMapAnewAfterSilentRepairs) {
+    for (const auto command : {mnuCheckHQSub_Click, mnuChangeUnitID_Click}) {
+        program.main.picMap.marked = false;
+        command(program);
+        EXPECT_TRUE(platform.messages.empty());
+        EXPECT_TRUE(program.main.picMap.marked);
+    }
+}

@@ -1,3 +1,5 @@
+#include "core/hierarchy.h"
+#include "core/identity.h"
 #include "tests/support/program_test.h"
 
 using Identity = ProgramTest;
@@ -35,4 +37,14 @@ TEST_F(Identity, UnknownEchelonCompareToNothing) {
     EXPECT_EQ(compare_echelon("", "Army"), std::nullopt);
     EXPECT_EQ(compare_echelon("Army", ""), std::nullopt);
     EXPECT_EQ(compare_echelon("army", "Army"), std::nullopt);
+}
+
+TEST_F(Identity, WithoutChanceTheSecondUnitEndsTheRenumbering) {
+    for (const char* id : {"{1}", "{2}", "{3}"}) add_unit(id);
+    platform.has_chance = false;
+    assign_new_ids(program);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 457 when assigning new IDs."});
+    ASSERT_EQ(program.campaign.colUnits.count(), 1U) << "the rest is lost";
+    EXPECT_EQ(program.campaign.colUnits->at(1)->ID, "");
+    EXPECT_TRUE(program.campaign.colUnits->contains(""));
 }

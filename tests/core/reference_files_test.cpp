@@ -44,6 +44,11 @@ TEST_F(ReferenceFiles, EchelonComesFromTheFirstWordOfTheListAnywhereInTheName) {
                                          "Company", "Platoon", "Squad",    "Team",    "Battery"};
     for (std::size_t i = 1; i < order.size(); ++i)
         EXPECT_EQ(echelon_of_file_name(order[i] + " " + order[i - 1] + ".gif"), order[i - 1]);
+    for (const std::string& word : order) {
+        std::string small = word;
+        small[0] = static_cast<char>(small[0] - 'A' + 'a');
+        EXPECT_EQ(echelon_of_file_name("1st " + small + ".gif"), word);
+    }
 }
 
 TEST_F(ReferenceFiles, SameNameOnBothSidesIsTwoTypes) {

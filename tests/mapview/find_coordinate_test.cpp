@@ -91,6 +91,8 @@ TEST_F(FindCoordinate, MarkerStandsAroundThePoint) {
     EXPECT_EQ(main.linFindgridx.x1, 976);
     EXPECT_EQ(main.linFindgridx.x2, 1024);
     EXPECT_EQ(main.linFindgridx.y1, 2000);
+    EXPECT_EQ(main.linFindgridx.y2, 2000);
+    EXPECT_EQ(main.linFindgridy.x2, 1000);
     EXPECT_EQ(main.linFindgridy.y1, 2024);
     EXPECT_EQ(main.linFindgridy.y2, 1976);
     EXPECT_EQ(main.linFindgridy.x1, 1000);
@@ -102,7 +104,10 @@ TEST_F(FindCoordinate, MarkerBlinksSevenTimesAndGoesAway) {
     for (int tick = 1; tick <= 7; ++tick) {
         EXPECT_TRUE(program.main.tmrTimer.enabled);
         tmrTimer_Timer(program);
-        EXPECT_EQ(marker_visible(), tick % 2 == 0);
+        const frmMain& main = program.main;
+        for (const bool shown :
+             {main.shpFindgrid.visible, main.linFindgridx.visible, main.linFindgridy.visible})
+            EXPECT_EQ(shown, tick % 2 == 0) << tick;
     }
     EXPECT_FALSE(program.main.tmrTimer.enabled);
     EXPECT_EQ(program.campaign.gBlinkCount, 0);
@@ -137,6 +142,10 @@ TEST_F(FindCoordinate, TextsBecomeFourDigits) {
         EXPECT_EQ(program.campaign.gFindY, 3102);
         EXPECT_FALSE(program.form<frmEnterCoord>().visible);
     }
+    EXPECT_EQ(enter("2000", "1200"), "");
+    const std::int16_t twelve_km = program.campaign.gFindY;
+    EXPECT_EQ(enter("2000", "12"), "");
+    EXPECT_EQ(program.campaign.gFindY, twelve_km) << "the north text as well";
 }
 
 TEST_F(FindCoordinate, PointOutsideTheMapIsRefusedAndTheBoxesReset) {

@@ -70,7 +70,9 @@ TEST_F(Overview, PopupTogglesLinesFansAndUnits) {
     mnuOVPU_show_units_Click(program);
     EXPECT_FALSE(main.shpUnit(1).visible);
     EXPECT_TRUE(main.shpUnit(2).visible) << "one that is deleted is left alone";
+    main.picMap.marked = false;
     mnuViewFFoverview_Click(program);
+    EXPECT_TRUE(main.picMap.marked);
     EXPECT_FALSE(campaign.gDispOmFirefans || main.mnuViewFFoverview.checked ||
                  program.form<frmDisplay>().chkOmFirefans.value);
 }
@@ -219,6 +221,8 @@ TEST_F(Overview, BandOfTheTrayTakesAMarkerThereAsOneOfTheMap) {
     picUnitTray_MouseUp(program, {left_button, 0, 150, 150});
     EXPECT_EQ(selected(), 2U);
     EXPECT_EQ(marker(*in_tray).border_style + marker(*on_map).border_style, 2);
+    EXPECT_TRUE(main.mnuDeleteSelected.enabled);
+    EXPECT_FALSE(main.mnuUP_edit.enabled);
 }
 
 TEST_F(Overview, BandOfTheTrayGrowsUnderTheConditionsOfTheMap) {
@@ -289,15 +293,22 @@ TEST_F(Overview, OptionsThatNothingReadsChangeNothing) {
     for (const int x : {0, 2000}) line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 0}));
     campaign.colLines->add(line);
     const auto unit = add_marked("{1}", 100, 100);
+    main.lblUser.load(1).visible = main.shpShape.load(1).visible = main.lblShapeLabel.load(1).visible = true;
     picMap_Paint(program);
     const DrawingList map = program.painting.map;
     const DrawingList overview = program.painting.overview;
     const Pens before = program.painting.began_with;
-    campaign.gDispLines = campaign.gDispLabels = campaign.gDispShapes = false;
-    campaign.gDispOmUnits = campaign.gDispOmLines = false;
+    auto& form = program.form<frmDisplay>();
+    for (CheckBox* box :
+         {&form.chkMmLines, &form.chkMmLabels, &form.chkMmShapes, &form.chkOmUnits, &form.chkOmLines})
+        box->value = false;
+    form.cmdOK_Click();
+    EXPECT_FALSE(campaign.gDispLines || campaign.gDispLabels || campaign.gDispShapes ||
+                 campaign.gDispOmUnits || campaign.gDispOmLines);
     program.painting.set_pens(before);
     picMap_Paint(program);
     EXPECT_TRUE(map.same_figures(program.painting.map));
     EXPECT_TRUE(overview.same_figures(program.painting.overview));
     EXPECT_TRUE(marker(*unit).visible && main.shpUnit(unit->img_index).visible);
+    EXPECT_TRUE(main.lblUser(1).visible && main.shpShape(1).visible && main.lblShapeLabel(1).visible);
 }

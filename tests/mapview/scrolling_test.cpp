@@ -104,6 +104,15 @@ TEST_F(Scrolling, CtrlHidesTheMarkersAndLettingItGoShowsAllDeletedOnesToo) {
     EXPECT_FALSE(program.main.imgUnit(0).visible) << "the template";
 }
 
+TEST_F(Scrolling, CtrlLetGoShowsMarkersThatTheDisplayOptionHasHidden) {
+    program.campaign.gNextUnitIndex = 2;
+    program.campaign.gDispUnits = false;
+    program.main.imgUnit.load(1);
+    Form_KeyDown(program, key::ctrl);
+    Form_KeyUp(program, key::ctrl);
+    EXPECT_TRUE(program.main.imgUnit(1).visible);
+}
+
 TEST_F(Scrolling, OtherKeysLetGoShowNothing) {
     program.campaign.gNextUnitIndex = 2;
     program.main.imgUnit.load(1);

@@ -1,5 +1,6 @@
 #include "mapview/selection.h"
 
+#include "annotation/line_panel.h"
 #include "core/hierarchy.h"
 #include "mapview/move_unit.h"
 #include "mapview/unit_info.h"
@@ -123,7 +124,9 @@ TEST_F(Selection, ClosingThePanelEndsWhatHangsOnIt) {
     main.cmdHierarchy.show_on(true);
     campaign.curUFE = std::make_shared<oUnitForceElements>();
     main.picMap.marked = false;
+    main.setting_firefan = main.drawing_aoo = main.drawing_polygon = main.placing_shape = true;
     hide_unit_info(program);
+    EXPECT_TRUE(main.setting_firefan && main.drawing_aoo && main.drawing_polygon && main.placing_shape);
     EXPECT_FALSE(main.picUnitInfo.visible || main.transferring_fe || main.moving_waypoint ||
                  main.hierarchy_on || main.cmdTransferFE.enabled || main.cmdHierarchy.on());
     EXPECT_EQ(campaign.curUFE, nullptr);
@@ -269,6 +272,9 @@ TEST_F(Selection, MoveToTakesTheCoordinateExactlyAndCancelLeavesAll) {
     };
     mnuUP_moveto_Click(program);
     EXPECT_EQ(first->xcoord, 225);
+    platform.on_modal["frmEnterCoord"] = [&](Form&) { campaign.gFindX = 700; };
+    mnuUP_moveto_Click(program);
+    EXPECT_EQ(first->xcoord, 700) << "an earlier Cancel is forgotten";
 }
 
 TEST_F(Selection, StateBarsShowGoodToCriticalAndFollowTheMarker) {
@@ -311,11 +317,82 @@ TEST_F(Selection, TombThatCtrlHasShownIsToldAndTheSelectionStays) {
     EXPECT_EQ(marker(*second).border_style, 1);
 }
 
+TEST_F(Selection, TombIsToldToCtrlTooAndLeavesToolsTheirPress) {
+    marker(*first).tag = deleted_tag;
+    campaign.colUnits->remove("{1}");
+    press_unit(*first, left_button, ctrl_key);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when displaying unit info."});
+    EXPECT_EQ(marker(*first).border_style, 0);
+    press_unit(*first, left_button, shift_key);
+    EXPECT_FALSE(main.dragging) << "there is nothing to move";
+    platform.messages.clear();
+    cmdDrawLines_Click(program);
+    cmdStartDrawLines_Click(program);
+    press_unit(*first);
+    EXPECT_EQ(campaign.colLines.count(), 1U);
+    EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(Selection, ClearingSetsTheMenusOfOne) {
+    select_both();
+    press(900, 900, right_button);
+    EXPECT_EQ(selected(), 0U);
+    EXPECT_FALSE(main.mnuDeleteSelected.enabled || main.mnuUP_delete_all.enabled);
+    EXPECT_TRUE(main.mnuUP_delete.enabled && main.mnuUP_edit.enabled && main.mnuUP_moveto.enabled);
+}
+
+TEST_F(Selection, EachBandBeginsWithNoSize) {
+    press(400, 400);
+    move(700, 700, left_button);
+    release(700, 700);
+    EXPECT_EQ(selected(), 2U);
+    clear_selection(program);
+    press(400, 400);
+    EXPECT_EQ(main.shpRubberband.width + main.shpRubberband.height, 0);
+    release(400, 400);
+    EXPECT_EQ(selected(), 0U);
+}
+
+TEST_F(Selection, BandRestsWhileALabelIsWritten) {
+    press(400, 400);
+    program.forms["frmLabel"] = std::make_unique<Form>(program, "frmLabel", "");
+    program.forms["frmLabel"]->visible = true;
+    move(700, 700, left_button);
+    EXPECT_EQ(main.shpRubberband.width, 0);
+    program.forms["frmLabel"]->visible = false;
+    move(700, 700, left_button);
+    EXPECT_EQ(main.shpRubberband.width, 300);
+}
+
+TEST_F(Selection, LabelOverTheOverviewOrTheTrayChangesNothing) {
+    press_unit(*first);
+    MapLabel& label = main.lblUser.load(1);
+    label.visible = true;
+    main.lblUIeastcoord.caption = "east";
+    mouse_down(program, {TargetKind::label, 1}, {left_button, shift_key, 30, 30});
+    ASSERT_TRUE(main.dragging);
+    main.sbarMap.panels[0] = "as it was";
+    drag_over(program, DropSite::overview, 20, 20);
+    EXPECT_EQ(main.lblUIeastcoord.caption, "east");
+    EXPECT_EQ(main.sbarMap.panels[0], "as it was");
+    main.picMap.marked = false;
+    drag_drop(program, DropSite::tray, 20, 20);
+    EXPECT_FALSE(main.picMap.marked || main.dragging);
+    EXPECT_EQ(label.left, 0);
+}
+
+TEST_F(Selection, StateBarsNeedNoPaintOfTheLayers) {
+    main.picMap.marked = false;
+    mnuUnitState_Click(program);
+    EXPECT_TRUE(main.mnuUnitState.checked);
+    EXPECT_FALSE(main.picMap.marked);
+}
+
 TEST_F(Selection, RightPressOnAGroupOpensTheMenuAndKeepsTheGroup) {
     select_both();
     press_unit(*first, right_button);
     EXPECT_EQ(selected(), 2U);
-    EXPECT_EQ(platform.log.back(), std::string("popup ") + unit_popup);
+    EXPECT_EQ(platform.log.back(), std::string("popup ") + mnuUnitPopup);
 }
 
 TEST_F(Selection, BarOfAMarkerMadeLaterAppearsWhenItMoves) {

@@ -1,5 +1,6 @@
 #include "mapview/unit_info.h"
 
+#include "core/trap.h"
 #include "tests/support/map_test.h"
 
 namespace {
@@ -222,10 +223,34 @@ TEST_F(UnitInfo, LocatingCentresSelectsAndShows) {
     press_unit(*unit);
     locate_unit(program, "{far}");
     EXPECT_EQ(main.scrlHMap.value, 3000 - 499);
+    EXPECT_EQ(main.scrlVMap.value, 4000 - 444);
+    EXPECT_TRUE(main.mnuUP_edit.enabled);
     EXPECT_EQ(campaign.curUnit, far);
     EXPECT_EQ(marker(*unit).border_style, 0);
     EXPECT_EQ(marker(*far).border_style, 1);
     EXPECT_EQ(selected(), 1U);
+}
+
+TEST_F(UnitInfo, UnitWithoutAMarkerIsShownWithoutAPictureAndCantBeLocated) {
+    press_unit(*unit);
+    marker(*unit).picture = 7;
+    show_unit_info(program, unit->ID);
+    EXPECT_EQ(main.imgUIunit, 7);
+    const auto bare = add_unit("{bare}");
+    bare->img_index = 900;
+    show_unit_info(program, "{bare}");
+    EXPECT_EQ(main.imgUIunit, 0);
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(failure_of([&] { locate_unit(program, "{bare}"); }), failure::no_such_control);
+}
+
+TEST_F(UnitInfo, ShowingAUnitEmptiesTheListOfSubordinates) {
+    add_below(key('a'), *unit);
+    press_unit(*unit);
+    EXPECT_EQ(main.lstUIchildunits.rows.size(), 1U);
+    unit->children.drop();
+    show_unit_info(program, unit->ID);
+    EXPECT_TRUE(main.lstUIchildunits.rows.empty());
 }
 
 TEST_F(UnitInfo, ChainOfCommandButtonToggles) {

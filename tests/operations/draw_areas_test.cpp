@@ -32,6 +32,8 @@ class Areas : public ProgramTest {
 } // namespace
 
 TEST_F(Areas, LieAroundTheirUnitMaskedInItsColour) {
+    painting.map.pen.DrawWidth = 5;
+    painting.map.pen.ForeColor = 0xFF0000;
     draw_all_aoo(program, painting);
     EXPECT_EQ(told(painting.map), Told{"polygon 90,190 110,190 100,220"}) << "two points are no area";
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 0 fill 77 style 0 dash 0 width 1 mode 9");
@@ -39,8 +41,9 @@ TEST_F(Areas, LieAroundTheirUnitMaskedInItsColour) {
 
 TEST_F(Areas, OfTheUnitBeingDrawnForIsLeftOut) {
     program.main.drawing_aoo = true;
+    program.campaign.colUnits->item("{2}")->area_of_opeartion->add(vertex(3, 3));
     draw_all_aoo(program, painting);
-    EXPECT_TRUE(painting.map.figures().empty());
+    EXPECT_EQ(told(painting.map), Told{"polygon 1,1 2,2 3,3"}) << "that of another unit stays";
 }
 
 TEST_F(Areas, GatesOfAllAreas) {
@@ -78,11 +81,13 @@ TEST_F(Areas, BeingDrawnStaysOpen) {
     program.main.linTempLine.visible = true;
     EXPECT_TRUE(area_is_being_drawn(program));
     painting.map.pen.DrawWidth = 5;
+    painting.map.pen.ForeColor = 77;
     draw_area_being_drawn(program, painting);
     EXPECT_EQ(told(painting.map), (Told{"line 90,190 110,190", "line 110,190 100,220"}));
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 0 fill 0 style 1 dash 0 width 1 mode 13");
-    unit->area_of_opeartion.drop();
-    unit->area_of_opeartion->add(vertex(1, 1));
+    unit->area_of_opeartion->remove_at(3);
+    EXPECT_TRUE(area_is_being_drawn(program)) << "two points are one";
+    unit->area_of_opeartion->remove_at(2);
     EXPECT_FALSE(area_is_being_drawn(program)) << "one point is no line";
 }
 
@@ -93,6 +98,7 @@ TEST_F(Areas, MeasuredPathIsDrawnFromItsSecondPointOn) {
     program.campaign.colPathPoints->add(vertex(3, 4));
     program.campaign.colPathPoints->add(vertex(5, 6));
     EXPECT_TRUE(path_is_measured(program));
+    painting.map.pen.ForeColor = 77;
     draw_measured_path(program, painting);
     EXPECT_EQ(told(painting.map), (Told{"line 1,2 3,4", "line 3,4 5,6"}));
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 0 fill 0 style 1 dash 0 width 2 mode 13");
@@ -103,7 +109,13 @@ TEST_F(Areas, RangeRingsStandAKilometreApartWithFourTextsEach) {
     EXPECT_FALSE(range_circles_are_shown(program));
     program.campaign.colCirclePoints->add(vertex(1000, 1200));
     EXPECT_TRUE(range_circles_are_shown(program));
+    painting.map.pen.DrawMode = 9;
+    painting.map.pen.ForeColor = 77;
     draw_all_range_circles(program, painting);
+    for (const auto& figure : painting.map.figures()) {
+        EXPECT_EQ(figure.pen.DrawMode, 13);
+        EXPECT_EQ(figure.pen.ForeColor, 0);
+    }
     const Told all = told(painting.map);
     ASSERT_EQ(all.size(), 51U);
     EXPECT_EQ(all[0], "circle 1000,1200 r3");

@@ -42,6 +42,7 @@ class Waypoints : public ProgramTest {
 } // namespace
 
 TEST_F(Waypoints, RouteThenDotsEachWithItsThreeTexts) {
+    painting.map.pen.FillColor = 99;
     draw_waypoints(program, painting);
     EXPECT_EQ(told(painting.map),
               (Told{"line 100,100 300,100", "line 300,100 300,250", "circle 300,100 r3",
@@ -49,7 +50,7 @@ TEST_F(Waypoints, RouteThenDotsEachWithItsThreeTexts) {
                     "circle 300,250 r3", "text 240,258 November 25, 09:30", "text 240,270 1.00 Km, at 4 Km/H",
                     "text 240,282 halt"}));
     const auto& figures = painting.map.figures();
-    EXPECT_EQ(told(figures[0].pen), "fore 77 fill 0 style 1 dash 0 width 3 mode 13");
+    EXPECT_EQ(told(figures[0].pen), "fore 77 fill 99 style 1 dash 0 width 3 mode 13");
     EXPECT_EQ(told(figures[2].pen), "fore 0 fill 0 style 0 dash 0 width 1 mode 13");
     EXPECT_TRUE(figures[3].pen.FontBold);
     EXPECT_EQ(painting.map.pen.FillStyle, 1);
@@ -91,8 +92,14 @@ TEST_F(Waypoints, BeingSetAreTheActiveUnitsRouteAlone) {
     EXPECT_EQ(told(painting.map), (Told{"line 100,100 300,100", "line 300,100 300,250"}));
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 77 fill 0 style 1 dash 0 width 3 mode 13");
     painting.map.clear();
+    program.campaign.gDispWayptData = false;
+    const auto own = unit;
+    unit = program.campaign.colUnits->item("{2}");
+    add_waypoint(50, 60);
     draw_waypoints(program, painting);
-    EXPECT_TRUE(painting.map.figures().empty()) << "the other layer leaves the unit out";
+    EXPECT_EQ(told(painting.map), (Told{"line 0,0 50,60", "circle 50,60 r3"}))
+        << "the other layer leaves this unit out and no other";
+    unit = own;
 }
 
 TEST_F(Waypoints, BeingSetNeedAUnitWithOne) {
@@ -114,6 +121,13 @@ TEST_F(Waypoints, WithNobodySelectedThereAreNoneOfTheSelectedUnit) {
     program.campaign.gDispWayptAll = false;
     program.campaign.gDispWayptSelected = program.main.picUnitInfo.visible = true;
     program.campaign.curUnit = nullptr;
+    draw_waypoints(program, painting);
+    EXPECT_TRUE(painting.map.empty());
+}
+
+TEST_F(Waypoints, OfNobodyAreShownWithBothChoicesOff) {
+    program.main.picUnitInfo.visible = true;
+    program.campaign.gDispWayptAll = program.campaign.gDispWayptSelected = false;
     draw_waypoints(program, painting);
     EXPECT_TRUE(painting.map.empty());
 }

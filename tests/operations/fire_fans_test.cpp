@@ -22,7 +22,7 @@ class FireFans : public ProgramTest {
         unit->ycoord = 2000;
         unit->affiliation = "Allied";
         unit->img_index = 1;
-        program.main.imgUnit.load(1);
+        program.main.imgUnit.load(1).tag = "{1}";
         OverviewDot& dot = program.main.shpUnit.load(1);
         dot.left = 40;
         dot.top = 80;
@@ -159,6 +159,9 @@ TEST_F(FireFans, OverviewShowsThemInTheColourOfTheSide) {
     unit->affiliation = "Axis";
     draw_overview(program, painting);
     EXPECT_EQ(painting.overview.figures()[0].pen.FillColor, 0xFF0000);
+    program.campaign.curUFE = unit->force_elements->at(1);
+    draw_overview(program, painting);
+    EXPECT_EQ(painting.overview.figures()[0].pen.FillColor, 0xFF00) << "the element in hand";
     program.campaign.gDispOmFirefans = false;
     draw_overview(program, painting);
     EXPECT_TRUE(painting.overview.figures().empty());
@@ -166,9 +169,16 @@ TEST_F(FireFans, OverviewShowsThemInTheColourOfTheSide) {
 
 TEST_F(FireFans, UnitWithoutAMarkerHasNoneOnTheOverview) {
     add_element(13);
-    unit->img_index = 0;
+    for (const int none : {0, 2}) {
+        unit->img_index = static_cast<std::int16_t>(none);
+        draw_overview(program, painting);
+        EXPECT_TRUE(painting.overview.figures().empty()) << none;
+        EXPECT_EQ(painting.firefan_failure, 0) << none;
+    }
+    unit->img_index = 1;
+    program.main.imgUnit(1).tag = "{another}";
     draw_overview(program, painting);
-    EXPECT_TRUE(painting.overview.figures().empty());
+    EXPECT_TRUE(painting.overview.figures().empty()) << "the index is another one's by now";
 }
 
 TEST_F(FireFans, ElementThatTheCatalogueLacksIsToldOnceAndTheOtherLayersStand) {
@@ -184,6 +194,7 @@ TEST_F(FireFans, BrokenFanOfOneUnitLeavesThoseOfTheUnitsBehindIt) {
     add_element(77);
     unit = add_unit("{2}");
     unit->img_index = 1;
+    program.main.imgUnit(1).tag = "{2}";
     add_element(13);
     program.campaign.gDispFirefans = true;
     picMap_Paint(program);

@@ -132,6 +132,8 @@ TEST_F(RangeTools, FanFollowsThePointerUntilAnyPress) {
     EXPECT_EQ(campaign.curUFE->FireFanAngle, 90);
     EXPECT_TRUE(main.linTempLine.visible);
     EXPECT_EQ(main.linTempLine.x1, 500);
+    EXPECT_EQ(main.linTempLine.x2, 600) << "with its free end at the pointer from the first move on";
+    EXPECT_EQ(main.linTempLine.y2, 600);
     press(500, 700, right_button);
     EXPECT_EQ(campaign.curUFE->FireFanAngle, 180);
     EXPECT_FALSE(main.setting_firefan || main.linTempLine.visible || main.cmdSetFirefan.on());

@@ -92,6 +92,7 @@ TEST(ZoneRadiiOfUnits, PixelsRoundHalvesToEven) {
 
 TEST_F(SecurityZones, FilledZonesAreMaskedInTheUnitsColour) {
     program.campaign.gDispUSZAll = true;
+    painting.map.pen.ForeColor = 99;
     draw_security_zones(program, painting);
     EXPECT_EQ(told(painting.map),
               (std::vector<std::string>{"circle 1000,2000 r225", "circle 1000,2000 r300"}));

@@ -323,6 +323,16 @@ TEST_F(MainFileReader, SameFileTwiceDoublesUnitsAndNothingElse) {
     EXPECT_EQ(program.main.imgUnit(1).tag, old->ID);
 }
 
+TEST_F(MainFileReader, LinesOfOtherLengthsArePassedOverWhenOneIsComparedWithThose) {
+    oLines longer;
+    for (const int x : {1, 2, 3}) longer.colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, x}));
+    oLines line;
+    for (const int x : {1, 2}) line.colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, x}));
+    load(file(zeros(1) + section(std::vector<oLines>{longer, line, line}, write_line) + zeros(4)));
+    EXPECT_EQ(program.campaign.colLines.count(), 2U);
+    EXPECT_TRUE(platform.messages.empty());
+}
+
 TEST_F(MainFileReader, ShapeIsPlacedByItsCentreAndKeepsTheIndexOfTheFile) {
     oShapes shape;
     shape.ID = "{S}";

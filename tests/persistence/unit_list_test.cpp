@@ -1,6 +1,9 @@
 #include "persistence/unit_list.h"
 
+#include "core/hierarchy.h"
 #include "tests/support/map_test.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -111,6 +114,22 @@ TEST_F(UnitList, HqIsAskedForOnlyUntilTheFirstOneThatIsThere) {
     EXPECT_NE(saved_selection({below, stray}), "");
 }
 
+TEST_F(UnitList, SelectionIsTestedByTheIdsThatItsUnitsHaveNow) {
+    const auto top = add("{T}");
+    const auto child = add("{C}", "{T}");
+    for (const auto& unit : {top, child}) campaign.colSelectedUnits->add(unit, unit->ID);
+    mnuChangeUnitID_Click(program);
+    EXPECT_NE(saved(mnuSaveSelectedUnits_Click), "");
+    EXPECT_TRUE(platform.messages.empty());
+    const auto other = add("{T}"); // the ID under which the selection still holds the renumbered one
+    const auto below = add("{B}", "{T}");
+    std::filesystem::remove(path("units.uni"));
+    campaign.colSelectedUnits->remove("{C}");
+    top->children.drop();
+    campaign.colSelectedUnits->add(below, "{B}");
+    EXPECT_EQ(saved(mnuSaveSelectedUnits_Click), "") << "its HQ is not selected";
+}
+
 TEST_F(UnitList, LinksGoOutAsTheyStand) {
     const auto unit = add("{A}", "{gone}");
     EXPECT_NE(saved(mnuSaveAllUnits_Click).find("{gone}"), std::string::npos);
@@ -120,8 +139,10 @@ TEST_F(UnitList, LinksGoOutAsTheyStand) {
 TEST_F(UnitList, CancelIsSilentAndErrorsAreTold) {
     add("{A}");
     mnuSaveAllUnits_Click(program);
+    main.picMap.marked = false;
     mnuLoadUnits_Click(program);
     EXPECT_TRUE(platform.messages.empty());
+    EXPECT_FALSE(main.picMap.marked);
     platform.chosen_files = {"/dev/full"};
     mnuSaveAllUnits_Click(program);
     load("");
@@ -150,8 +171,76 @@ TEST_F(UnitList, ListComesBackWithMarkersAndCheckedLinks) {
     EXPECT_EQ(campaign.colUnits->item("{S}")->parent_ID, "") << "its HQ is in neither";
     EXPECT_TRUE(main.picMap.marked);
     EXPECT_FALSE(platform.waiting);
-    EXPECT_EQ(platform.file_dialogs.back().title, "tolvane ii units");
-    EXPECT_FALSE(platform.file_dialogs.back().saving);
+    const FileDialog& dialog = platform.file_dialogs.back();
+    EXPECT_EQ(dialog.title, "tolvane ii units");
+    EXPECT_EQ(dialog.filter, "uni|*.uni");
+    EXPECT_EQ(dialog.directory, folder);
+    EXPECT_FALSE(dialog.saving);
+    const auto on = std::find(platform.log.rbegin(), platform.log.rend(), "hourglass on");
+    EXPECT_LT(std::find(platform.log.rbegin(), platform.log.rend(), "hourglass off"), on);
+    EXPECT_NE(std::find(platform.log.rbegin(), on, "read list"), on) << "read while the hourglass runs";
+}
+
+TEST_F(UnitList, ListThatBreaksOffLeavesWhatItBroughtUncheckedButSeen) {
+    add("{A}");
+    add("{B}", "{gone}");
+    std::string bytes = saved(mnuSaveAllUnits_Click);
+    bytes.replace(bytes.find("\r\n2\r\n"), 5, "\r\n3\r\n");
+    forget_units();
+    main.picMap.marked = false;
+    load(bytes);
+    EXPECT_EQ(platform.texts(), Texts{"Error 62 when loading units!"});
+    EXPECT_EQ(campaign.colUnits.count(), 2U);
+    EXPECT_TRUE(main.imgUnit(2).visible);
+    EXPECT_EQ(campaign.colUnits->item("{B}")->parent_ID, "{gone}") << "links are not checked";
+    EXPECT_TRUE(main.picMap.marked);
+    EXPECT_FALSE(platform.waiting);
+}
+
+TEST_F(UnitList, UnitWhoseHqIsInTheCampaignJoinsIt) {
+    add("{T}");
+    add("{C}", "{T}");
+    campaign.colSelectedUnits->add(campaign.colUnits->item("{C}"), "{C}");
+    const std::string both = saved(mnuSaveAllUnits_Click);
+    forget_units();
+    load(both);
+    const std::string only_child = [&] {
+        campaign.colUnits->remove("{T}");
+        return saved(mnuSaveAllUnits_Click);
+    }();
+    forget_units();
+    add("{T}");
+    load(only_child);
+    EXPECT_EQ(platform.texts(), Texts{"Found and fixed a total of 1 errors in the unit hierarchy."});
+    EXPECT_TRUE(campaign.colUnits->item("{T}")->children->contains("{C}"));
+    EXPECT_EQ(campaign.colUnits->item("{C}")->parent_ID, "{T}");
+}
+
+TEST_F(UnitList, OldListsHaveTheirTagsFields) {
+    const auto full = add("{A}");
+    auto element = std::make_shared<oUnitForceElements>();
+    element->ID = "{F}";
+    element->free_text = "text";
+    full->force_elements->add(element, "{F}");
+    full->state = 3;
+    full->order_id = "re";
+    const std::string bytes = saved(mnuSaveAllUnits_Click);
+    const auto tagged = [&](const std::string& tag) {
+        std::string old = bytes;
+        old.replace(0, old.find("\r\n"), '"' + tag + '"');
+        return old;
+    };
+    forget_units();
+    load(tagged("beta 7.1"));
+    EXPECT_EQ(platform.texts().size(), 1U) << "the field that such a list has not shifts all behind it";
+    std::string seven = tagged("beta 7.1");
+    seven.erase(seven.find(",\"text\""), 7);
+    platform.messages.clear();
+    forget_units();
+    load(seven);
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(campaign.colUnits->item("{A}")->force_elements->item("{F}")->free_text, "");
+    EXPECT_EQ(campaign.colUnits->item("{A}")->order_id, "Rear echelon");
 }
 
 TEST_F(UnitList, PresentUnitsAreAskedForOnceAndYesRenumbersThem) {
@@ -201,5 +290,6 @@ TEST_F(UnitList, MissingPictureIsToldAndTheBlankOneTaken) {
     load(bytes);
     EXPECT_EQ(platform.texts(),
               Texts{"Unable to load unit image '" + folder + "\\none.gif'.\nSetting unit image to blank."});
-    EXPECT_TRUE(campaign.colUnits->contains("{A}"));
+    EXPECT_EQ(campaign.colUnits->item("{A}")->symbol, "\\data\\forces\\blank.gif");
+    EXPECT_TRUE(main.imgUnit(1).visible);
 }

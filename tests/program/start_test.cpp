@@ -252,10 +252,14 @@ TEST_F(Start, FailureInTheMainLoadIsToldAndTheRestSkipped) {
     auto huge = std::make_shared<const QuietPlatform::Map>(100, 6000000);
     program.campaign.gMapPicture = huge;
     program.campaign.gDateMonth = "December";
+    program.main.file_version = "as before";
     frmMain_Load(program);
     EXPECT_EQ(platform.texts().back(), "Error 6 when initializing.");
     EXPECT_EQ(program.campaign.gDateMonth, "December");
     EXPECT_FALSE(platform.waiting);
+    EXPECT_EQ(program.main.picMap.height, 6000000) << "the windows are laid out by then";
+    EXPECT_EQ(program.main.picHcoord.width, 0) << "the rulers are not";
+    EXPECT_EQ(program.main.file_version, "as before");
 }
 
 TEST_F(Start, ExitReleasesTheCampaignUnloadsEveryWindowAndTheMainWindowLast) {
@@ -303,6 +307,57 @@ TEST_F(Start, ExitReleasesTheCampaignUnloadsEveryWindowAndTheMainWindowLast) {
     EXPECT_EQ(platform.log.back(), "unload frmMain");
     EXPECT_FALSE(program.forms.at("frmStart")->loaded);
     EXPECT_TRUE(platform.messages.empty()) << "nothing asks about unsaved work";
+}
+
+TEST_F(Start, ExitUnloadsItsWindowsInTheirOrder) {
+    const std::vector<std::string> windows{"frmLabel",
+                                           "frmMapLegend",
+                                           "frmStart",
+                                           "frmTotalOOB",
+                                           "frmAboutTolvaneII",
+                                           "frmAboutMap",
+                                           "frmCreateUnits",
+                                           "frmEditUnit",
+                                           "frmDisplay",
+                                           "frmSetDateTime",
+                                           "frmEnterCoord",
+                                           "frmEditFE",
+                                           "frmFullscreenOverview",
+                                           "frmSaveMapInfo",
+                                           "frmWaypointdata",
+                                           "frmEditWaypoint",
+                                           "frmEditGmPlayers",
+                                           "frmFireMissions",
+                                           "frmTownsData",
+                                           "frmEditTown",
+                                           "frmListAllUnits"};
+    std::vector<std::string> expected;
+    for (const std::string& name : windows) {
+        program.forms[name] = std::make_unique<Form>(program, name, name);
+        program.forms[name]->visible = true;
+        expected.push_back("hide " + name);
+    }
+    expected.emplace_back("unload frmMain");
+    mnuExit_Click(program);
+    EXPECT_EQ(platform.log, expected);
+    for (const std::string& name : windows) EXPECT_FALSE(program.forms.at(name)->loaded) << name;
+}
+
+TEST_F(Start, SplashCantBeClosedByTheUser) {
+    auto& splash = program.form<frmStart>();
+    splash.Form_Load();
+    splash.close_box();
+    EXPECT_TRUE(splash.visible);
+}
+
+TEST_F(Start, HourglassRunsUntilTheReferenceFilesAreRead) {
+    run();
+    const auto off = std::find(platform.log.begin(), platform.log.end(), "hourglass off");
+    const auto towns = std::find_if(platform.log.begin(), platform.log.end(), [](const std::string& entry) {
+        return entry.starts_with("read ") && entry.ends_with("towns.txt");
+    });
+    ASSERT_NE(towns, platform.log.end());
+    EXPECT_LT(towns, off);
 }
 
 TEST_F(Start, CloseBoxRunsTheExitOnceAndTheProgramsOwnUnloadDoesNot) {
@@ -426,6 +481,8 @@ TEST(Tables, EntriesRunTheirOwnCommands) {
     EXPECT_EQ(command("mnuSaveSelected"), mnuSaveSelected_Click);
     EXPECT_EQ(command("mnuLoad"), mnuLoad_Click);
     EXPECT_EQ(command("mnuExit"), mnuExit_Click);
+    EXPECT_EQ(command("mnuAboutMap"), mnuAboutMap_Click);
+    EXPECT_EQ(command("mnuAboutTolvaneII"), mnuAboutTolvaneII_Click);
 }
 
 TEST(Tables, NoControlStandsTwice) {
