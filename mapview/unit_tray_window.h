@@ -4,6 +4,7 @@
 #include "mapview/map_view_window.h"
 #include "widgets/side_panel.h"
 
+class QLabel;
 class QPushButton;
 
 /// `picUnitTray`: a place to put markers aside.
@@ -29,6 +30,7 @@ class UnitTrayView : public SidePanel {
     const Sprites& sprites;
     MapView& map;
     EventRunner& events;
+    QLabel* title;
     QPushButton* close;
     HitTarget pressed;
     bool captured = false;

@@ -161,10 +161,12 @@ TEST_F(Layout, PanelsHaveRoomForALargeFontUniqueLettersAndNames) {
     expect_well_laid_out(*desktop.control("picUnitInfo"));
     desktop.click("cmdDrawLines");
     QTest::qWait(20);
+    ASSERT_TRUE(desktop.control("picDrawLines")->isVisible());
     expect_well_laid_out(*desktop.control("picDrawLines"));
-    desktop.click("cmdDrawLines");
+    desktop.click("cmdExitDrawLine");
     desktop.click("cmdUnitTray");
     QTest::qWait(20);
+    ASSERT_TRUE(desktop.control("picUnitTray")->isVisible());
     expect_well_laid_out(*desktop.control("picUnitTray"));
 }
 

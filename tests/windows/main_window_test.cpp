@@ -83,6 +83,34 @@ TEST_F(MainWindow, KeysScrollWhateverHasTheFocus) {
     }
 }
 
+TEST_F(MainWindow, EachScrollingKeyGoesItsWay) {
+    struct Row {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        int right;
+        int down;
+    };
+    const Qt::KeyboardModifiers pad = Qt::KeypadModifier;
+    const std::vector<Row> rows{
+        {Qt::Key_Left, {}, -1, 0}, {Qt::Key_Up, {}, 0, -1}, {Qt::Key_Right, {}, 1, 0},
+        {Qt::Key_Down, {}, 0, 1},  {Qt::Key_4, pad, -1, 0}, {Qt::Key_8, pad, 0, -1},
+        {Qt::Key_6, pad, 1, 0},    {Qt::Key_2, pad, 0, 1},  {Qt::Key_7, pad, -1, -1},
+        {Qt::Key_9, pad, 1, -1},   {Qt::Key_3, pad, 1, 1},  {Qt::Key_1, pad, -1, 1},
+        {Qt::Key_5, pad, 0, 0},    {Qt::Key_0, pad, 0, 0},  {Qt::Key_Question, {}, 0, 0},
+        {Qt::Key_A, {}, 0, 0}};
+    for (const Row& row : rows) {
+        bar("scrlHMap")->setValue(400);
+        bar("scrlVMap")->setValue(400);
+        desktop->key(row.key, row.modifiers);
+        EXPECT_EQ(main().scrlHMap.value, 400 + 40 * row.right) << row.key;
+        EXPECT_EQ(main().scrlVMap.value, 400 + 40 * row.down) << row.key;
+    }
+}
+
+TEST_F(MainWindow, StandsInTheUpperLeftCornerOfTheScreen) {
+    EXPECT_EQ(desktop->window()->geometry().topLeft(), QPoint(0, 0));
+}
+
 TEST_F(MainWindow, KeypadScrollsWithNumLockOnAndOff) {
     desktop->key(Qt::Key_6, Qt::KeypadModifier);
     EXPECT_EQ(main().scrlHMap.value, 40);
@@ -267,6 +295,35 @@ TEST_F(MainWindow, FileNameWithoutExtensionGetsThatOfTheFilter) {
             QTest::keyClick(edit, Qt::Key_Return);
         });
     EXPECT_EQ(chosen, "/tmp/no such file here.tvn");
+}
+
+TEST_F(MainWindow, PresentFileIsAskedAboutUnderTheNameWithItsExtension) {
+    const QString present = QDir::tempPath() + "/present campaign.tvn";
+    QFile file(present);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    std::string chosen;
+    QString question;
+    desktop->with_dialog(
+        [&] {
+            chosen = desktop->platform.file_dialog(
+                {"t", QDir::tempPath().toStdString(), "tvn|*.tvn", "", true, true});
+        },
+        [&](QWidget* dialog) {
+            EXPECT_EQ(dialog->windowTitle(), "t");
+            auto* const edit = dialog->findChild<QLineEdit*>("fileNameEdit");
+            edit->setText(QDir::tempPath() + "/present campaign");
+            QTimer::singleShot(60, [&] {
+                auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+                ASSERT_NE(box, nullptr);
+                question = box->text();
+                QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
+            });
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+    EXPECT_TRUE(question.contains("present campaign.tvn")) << question.toStdString();
+    EXPECT_EQ(chosen, present.toStdString());
+    file.remove();
 }
 
 TEST_F(MainWindow, FontsOfOtherSystemsHaveAStandInWithTheSameWidths) {

@@ -92,8 +92,21 @@ TEST_F(Layers, HatchesStayOnTheMapWhenTheViewScrolls) {
     unit->color = 255;
     unit->xcoord = unit->ycoord = 800;
     program.campaign.colUnits->add(unit, unit->ID);
+    unit->affiliation = "Axis";
+    unit->img_index = 0;
+    auto gun = std::make_shared<oForceElements>();
+    gun->force_type = 4;
+    gun->max_range = 1000;
+    program.campaign.colForceElements->add(gun, " 1");
+    auto guns = std::make_shared<oUnitForceElements>();
+    guns->Index = 1;
+    unit->force_elements->add(guns, "{G}");
     program.campaign.gDispUSZ = program.campaign.gDispUSZAll = true;
+    program.campaign.gDispUSZFilled = false; // two hatches, and a fan with a third one
+    program.campaign.gDispFirefans = true;
     picMap_Paint(program);
+    ASSERT_EQ(program.painting.map.figures().size(), 3U);
+    for (const auto& figure : program.painting.map.figures()) EXPECT_GT(figure.pen.FillStyle, 1);
     const QImage first = at(500, 500);
     const QImage scrolled = at(503, 505);
     EXPECT_GT(different_pixels(first, scrolled), 1000) << "the picture has moved";

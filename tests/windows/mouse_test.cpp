@@ -4,6 +4,7 @@
 #include "mapview/unit_info.h"
 #include "mapview/unit_marker.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
@@ -253,8 +254,68 @@ TEST_F(Mouse, CtrlHeldDownKeepsTheMarkersHiddenWhileItRepeats) {
     EXPECT_TRUE(main().imgUnit(1).visible);
 }
 
-TEST_F(Mouse, CloseBoxLeavesTheProgram) {
+TEST_F(Mouse, StateBarsComeAndGoInTheWindow) {
+    first->state = 3;
+    const QRect corner(first->xcoord, first->ycoord, 20, 20);
+    const auto red_pixels = [&] {
+        QTest::qWait(20);
+        const QImage seen = map->grab(corner).toImage();
+        int count = 0;
+        for (int x = 0; x < seen.width(); ++x)
+            for (int y = 0; y < seen.height(); ++y)
+                count += seen.pixelColor(x, y) == QColor(255, 0, 0) ? 1 : 0;
+        return count;
+    };
+    EXPECT_EQ(red_pixels(), 0);
+    desktop.entry("mnuUnitState")->trigger();
+    EXPECT_GT(red_pixels(), 20);
+    desktop.entry("mnuUnitState")->trigger();
+    EXPECT_EQ(red_pixels(), 0);
+}
+
+TEST_F(Mouse, VerticesArePickedWithinTwoPixelsWhereverTheMapIsScrolled) {
+    auto line = std::make_shared<oLines>();
+    for (const int x : {1300, 1400})
+        line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 1200}));
+    campaign().colLines->add(line);
+    desktop.control<QScrollBar>("scrlHMap")->setValue(1003);
+    desktop.control<QScrollBar>("scrlVMap")->setValue(905);
+    desktop.click("cmdDrawLines");
+    desktop.click("cmdMovePoint");
+    const QPoint vertex(1300 - 1003 + 2, 1200 - 905 + 2);
+    QTest::mouseClick(map, Qt::LeftButton, {}, vertex + QPoint(2, 0));
+    EXPECT_EQ(main().selected_point, 0);
+    QTest::mouseClick(map, Qt::LeftButton, {}, vertex + QPoint(1, -1));
+    EXPECT_EQ(main().selected_point, 1);
+}
+
+TEST_F(Mouse, MinimisedWindowComesBackAsItWas) {
+    const QSize size = desktop.window()->size();
+    const auto range = main().scrlHMap.max;
+    desktop.control<QScrollBar>("scrlHMap")->setValue(300);
+    desktop.window()->showMinimized();
+    QTest::qWait(30);
+    desktop.window()->showNormal();
+    desktop.window()->resize(size);
+    QTest::qWait(30);
+    EXPECT_EQ(main().scrlHMap.max, range);
+    EXPECT_EQ(main().scrlHMap.value, 300);
+    EXPECT_EQ(main().picMap.left, -300);
+}
+
+TEST_F(Mouse, CloseBoxEndsTheEventLoopAndLeavesTheProgram) {
     campaign().colLabels->add(std::make_shared<oLabels>());
-    desktop.window()->close();
+    bool timed_out = false;
+    QTimer::singleShot(0, [&] {
+        QCloseEvent clicked; // as the window system sends it
+        QApplication::sendEvent(desktop.window()->windowHandle(), &clicked);
+    });
+    QTimer::singleShot(5000, [&] {
+        timed_out = true;
+        QApplication::exit(1);
+    });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(timed_out);
+    EXPECT_FALSE(desktop.window()->isVisible());
     EXPECT_TRUE(campaign().colUnits.empty() && campaign().colLabels.empty());
 }
