@@ -8,6 +8,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 namespace {
 
@@ -38,6 +39,7 @@ OverviewView::OverviewView(Program& program, EventRunner& events, QWidget* paren
     setMouseTracking(true);
     setObjectName("picOverviewmap");
     setAccessibleName("Overview map");
+    setFocusPolicy(Qt::TabFocus); // for its popup menu
 }
 
 void OverviewView::mousePressEvent(QMouseEvent* event) {
@@ -64,6 +66,10 @@ void OverviewView::paintEvent(QPaintEvent* /*event*/) {
     const ShapeControl& box = program.main.shpOverviewbox;
     painter.setPen(Qt::red);
     if (box.visible) painter.drawRect(QRectF(box.left, box.top, box.width - 1, box.height - 1));
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
 }
 
 const QImage& OverviewView::content(double scale) {

@@ -1,6 +1,7 @@
 #include "mapview/map_view_window.h"
 
 #include "mapview/hit_target.h"
+#include "mapview/map_accessible_window.h"
 #include "mapview/map_controls_window.h"
 #include "mapview/map_mouse.h"
 #include "mapview/mouse_press_window.h"
@@ -21,6 +22,7 @@ bool shows_scratch_lines(const frmMain& main) {
 
 MapView::MapView(Program& program, const Sprites& sprites, EventRunner& events, QWidget* parent)
     : QWidget(parent), program(program), sprites(sprites), events(events) {
+    install_map_accessibility();
     setObjectName("picMapwindow");
     setAccessibleName("Map");
     setMouseTracking(true);

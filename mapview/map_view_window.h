@@ -29,6 +29,9 @@ class MapView : public QWidget {
     /// Repaints only where the find marker stands.
     void update_find_marker();
 
+    const Program& shown() const { return program; }
+    QPointF origin() const; // of the map, in pixels of this window
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -38,8 +41,7 @@ class MapView : public QWidget {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    QPointF origin() const; // of the map, in pixels of this window
-    QRect inside() const;   // the border
+    QRect inside() const; // the border
     void paint_view(QPainter& painter, const QRect& exposed);
 
     Program& program;

@@ -71,6 +71,14 @@ void toggle_selection(Program& program, int index) {
     set_menus_by_count(program);
 }
 
+bool take_selected_in_hand(Program& program) {
+    if (program.campaign.colSelectedUnits.empty()) return false;
+    const int index = program.campaign.colSelectedUnits->at(1)->img_index;
+    if (!program.main.imgUnit.has(index)) return false;
+    program.main.drag_index = index;
+    return true;
+}
+
 int select_in_band(Program& program, const ShapeControl& band) {
     Campaign& campaign = program.campaign;
     for (const auto& unit : campaign.colSelectedUnits) set_border(program, *unit, 0);

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QCursor>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
@@ -220,7 +221,7 @@ void QtPlatform::unload_main_window() {
     QApplication::quit();
 }
 
-void QtPlatform::popup_menu(const std::string& menu) { main->open_popup(menu); }
+void QtPlatform::popup_menu(const std::string& menu) { main->open_popup(menu, QCursor::pos()); }
 
 void QtPlatform::hourglass(bool on) {
     if (on == waiting) return;

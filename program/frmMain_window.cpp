@@ -6,6 +6,7 @@
 #include "mapview/layout.h"
 #include "mapview/map_frame_window.h"
 #include "mapview/scrolling.h"
+#include "mapview/selection.h"
 #include "mapview/unit_info_window.h"
 #include "mapview/unit_tray_window.h"
 #include "program/exit.h"
@@ -19,7 +20,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QCursor>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -109,7 +110,6 @@ void frmMain_window::make_toolbar() {
     toolbar->setObjectName("toolbar");
     toolbar->setMovable(false);
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-    setContextMenuPolicy(Qt::NoContextMenu);
     for (const ToolbarRow& row : toolbar_rows()) {
         auto* const button = new QToolButton;
         button->setObjectName(row.control);
@@ -219,9 +219,20 @@ void frmMain_window::bring_in_step(bool map_changed) {
     shown_at = stands_at;
 }
 
-void frmMain_window::open_popup(const std::string& title) {
+void frmMain_window::open_popup(const std::string& title, const QPoint& place) {
     end_capture();
-    menu(title)->popup(QCursor::pos());
+    menu(title)->popup(place);
+}
+
+/// The popups by the keyboard: over the map that of the selected unit, over the overview its own. The mouse
+/// opens them by its presses.
+void frmMain_window::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() != QContextMenuEvent::Keyboard) return;
+    if (overview->hasFocus()) open_popup(mnuOverviewPopup, overview->mapToGlobal(overview->rect().center()));
+    if (!map_view->hasFocus() || !take_selected_in_hand(program)) return;
+    const UnitMarker& marker = program.main.imgUnit(program.main.drag_index);
+    const QPointF centre(marker.left + marker.width / 2, marker.top + marker.height / 2);
+    open_popup(mnuUnitPopup, map_view->mapToGlobal((centre + map_view->origin()).toPoint()));
 }
 
 void frmMain_window::end_capture() {

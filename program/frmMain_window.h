@@ -29,8 +29,8 @@ class frmMain_window : public QMainWindow {
 
     /// Shows what the twins hold; the map, its rulers and the overview only where they can have changed.
     void bring_in_step(bool map_changed);
-    /// Opens a popup menu at the pointer.
-    void open_popup(const std::string& title);
+    /// Opens a popup menu at a place of the screen.
+    void open_popup(const std::string& title, const QPoint& place);
     /// A dialog or a menu opens: the release of a button that is down goes there.
     void end_capture();
     /// Takes the window away; its close box is not asked.
@@ -39,6 +39,7 @@ class frmMain_window : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

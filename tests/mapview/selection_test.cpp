@@ -341,6 +341,17 @@ TEST_F(Selection, ClearingSetsTheMenusOfOne) {
     EXPECT_TRUE(main.mnuUP_delete.enabled && main.mnuUP_edit.enabled && main.mnuUP_moveto.enabled);
 }
 
+TEST_F(Selection, PopupByTheKeyboardIsForTheSelectedUnit) {
+    EXPECT_FALSE(take_selected_in_hand(program)) << "none is";
+    press_unit(*first);
+    press_unit(*second);
+    main.drag_index = 0;
+    EXPECT_TRUE(take_selected_in_hand(program));
+    EXPECT_EQ(main.drag_index, second->img_index);
+    second->img_index = 900;
+    EXPECT_FALSE(take_selected_in_hand(program)) << "it has no marker";
+}
+
 TEST_F(Selection, EachBandBeginsWithNoSize) {
     press(400, 400);
     move(700, 700, left_button);

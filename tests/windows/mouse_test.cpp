@@ -4,8 +4,10 @@
 #include "mapview/unit_info.h"
 #include "mapview/unit_marker.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -287,6 +289,58 @@ TEST_F(Mouse, VerticesArePickedWithinTwoPixelsWhereverTheMapIsScrolled) {
     EXPECT_EQ(main().selected_point, 0);
     QTest::mouseClick(map, Qt::LeftButton, {}, vertex + QPoint(1, -1));
     EXPECT_EQ(main().selected_point, 1);
+}
+
+TEST_F(Mouse, MarkersAreChildrenOfTheMapForThoseWhoDoNotSeeIt) {
+    first->nationality = "Soviet";
+    first->name = "1/1461";
+    first->unittype = "Rifle Company";
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(map);
+    ASSERT_NE(face, nullptr);
+    EXPECT_EQ(face->role(), QAccessible::Graphic);
+    EXPECT_EQ(face->text(QAccessible::Name), "Map");
+    ASSERT_EQ(face->childCount(), 2);
+    QAccessibleInterface* const marker = face->child(0);
+    EXPECT_EQ(marker->text(QAccessible::Name), "Soviet 1/1461 Rifle Company");
+    EXPECT_EQ(marker->parent(), face);
+    EXPECT_EQ(face->indexOfChild(marker), 0);
+    EXPECT_EQ(face->child(0), marker) << "the same each time";
+    EXPECT_EQ(face->child(2), nullptr);
+    const QPoint centre = map->mapToGlobal(over(*first));
+    EXPECT_TRUE(marker->rect().contains(centre));
+    EXPECT_EQ(face->childAt(centre.x(), centre.y()), marker);
+    EXPECT_FALSE(marker->state().selected);
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    EXPECT_TRUE(marker->state().selected);
+    EXPECT_FALSE(marker->state().offscreen);
+    desktop.control<QScrollBar>("scrlHMap")->setValue(2000);
+    EXPECT_TRUE(marker->state().offscreen);
+    main().imgUnit(1).visible = false;
+    EXPECT_EQ(face->childCount(), 1);
+    campaign().colUnits->remove("{1}");
+    EXPECT_FALSE(marker->isValid());
+    EXPECT_EQ(marker->text(QAccessible::Name), "");
+}
+
+TEST_F(Mouse, PopupsOpenByTheKeyboardWhereTheFocusIs) {
+    const auto popup_after_key = [&](QWidget* focus) -> QMenu* {
+        focus->setFocus();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, focus->mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(focus, &event);
+        return dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    EXPECT_EQ(popup_after_key(map), nullptr) << "no unit is selected";
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*second));
+    QMenu* const units = popup_after_key(map);
+    ASSERT_NE(units, nullptr);
+    EXPECT_EQ(units->title(), "Unit menu");
+    EXPECT_EQ(main().drag_index, second->img_index);
+    EXPECT_TRUE(units->geometry().adjusted(-2, -2, 2, 2).contains(map->mapToGlobal(over(*second))));
+    units->close();
+    QMenu* const overview = popup_after_key(desktop.control("picOverviewmap"));
+    ASSERT_NE(overview, nullptr);
+    EXPECT_EQ(overview->title(), "Overview Popup");
+    overview->close();
 }
 
 TEST_F(Mouse, MinimisedWindowComesBackAsItWas) {
