@@ -193,10 +193,8 @@ void mouse_move(Program& program, const HitTarget& target, const MapPress& press
 }
 
 void control_MouseUp(Program& program, const HitTarget& target) {
-    if (target.kind == TargetKind::unit) return;
     // A label takes a press as the map does, but no release: what only that would end must not stay.
-    program.main.shpRubberband.visible = false;
-    program.main.map_popup_shown = false;
+    if (target.kind != TargetKind::unit) end_press(program);
 }
 
 void picMap_MouseUp(Program& program, const MapPress& press) {
