@@ -39,7 +39,9 @@ double step_cost(const Terrain& terrain, QPointF a, QPointF b) {
     return length * (1 + wet + wooded + roughness) + 14 * rise + water;
 }
 
-std::vector<QPointF> cheapest_way(const Grid& grid, QPointF from, QPointF to, std::vector<double>& trodden) {
+/// From the one point over nodes of the grid to the other, the far end first.
+std::vector<QPointF> cheapest_way(const Grid& grid, QPointF from, QPointF to,
+                                  const std::vector<double>& trodden) {
     const int start = grid.node(from);
     const int goal = grid.node(to);
     const auto size = static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows);
@@ -73,16 +75,72 @@ std::vector<QPointF> cheapest_way(const Grid& grid, QPointF from, QPointF to, st
     }
     std::vector<QPointF> way{to};
     for (int n = before[static_cast<std::size_t>(goal)]; n != -1 && n != start;
-         n = before[static_cast<std::size_t>(n)]) {
+         n = before[static_cast<std::size_t>(n)])
         way.push_back(grid.point(n));
-        trodden[static_cast<std::size_t>(n)] = 0.5;
-    }
     way.push_back(from);
-    std::vector<QPointF> thinned;
-    for (std::size_t i = 0; i < way.size(); i += (i + 3 < way.size() && i > 0) ? 3 : 1)
-        thinned.push_back(way[i]);
+    return way;
+}
+
+/// The way as a road runs it: the corners of the grid are gone. Corners lie evenly, or the curve would curl.
+std::vector<QPointF> rounded(const std::vector<QPointF>& way) {
+    constexpr std::size_t apart = 3;
+    std::vector<QPointF> thinned{way.front()};
+    for (std::size_t i = apart; i + apart / 2 + 1 < way.size(); i += apart) thinned.push_back(way[i]);
+    thinned.push_back(way.back());
     return smooth_curve(thinned, 8);
 }
+
+/// The point of the roads that is nearest, itself when none is near.
+QPointF joined(const std::vector<Road>& roads, QPointF point) {
+    constexpr double reach = 60;
+    QPointF best = point;
+    double least = reach;
+    for (const Road& road : roads)
+        for (const QPointF& other : road.line) {
+            const double apart = std::hypot(other.x() - point.x(), other.y() - point.y());
+            if (apart >= least) continue;
+            least = apart;
+            best = other;
+        }
+    return best;
+}
+
+/// The country's roads while they are being built.
+struct Building {
+    const Grid grid;
+    std::vector<double> trodden; // by node: how much less a road costs that is there already
+    std::vector<Road> roads;
+
+    explicit Building(const Terrain& terrain)
+        : grid(terrain),
+          trodden(static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows), 1) {}
+
+    /// Builds what is not there yet of the way from one place to another.
+    void build(RoadClass kind, QPointF from, QPointF to) {
+        const std::vector<QPointF> way = cheapest_way(grid, from, to, trodden);
+        std::vector<QPointF> piece;
+        std::vector<Road> pieces;
+        const auto finish = [&] {
+            if (piece.size() > 1) pieces.push_back({kind, rounded(piece)});
+            piece.clear();
+        };
+        for (const QPointF& point : way) {
+            const bool is_there = cost_of(point) < 1;
+            if (!is_there) {
+                piece.push_back(point);
+                continue;
+            }
+            if (piece.size() > 1) piece.push_back(joined(roads, point)); // else it ran along a road
+            finish();
+            piece.push_back(joined(roads, point));
+        }
+        finish();
+        for (const QPointF& point : way) cost_of(point) = 0.5;
+        roads.insert(roads.end(), pieces.begin(), pieces.end());
+    }
+
+    double& cost_of(QPointF point) { return trodden[static_cast<std::size_t>(grid.node(point))]; }
+};
 
 RoadClass class_between(const Place& a, const Place& b) {
     const int fewer = std::min(a.population, b.population);
@@ -129,27 +187,34 @@ std::vector<Link> links(const std::vector<Place>& places) {
 
 } // namespace
 
-std::vector<Road> build_roads(const Terrain& terrain, const std::vector<Place>& places) {
-    const Grid grid(terrain);
-    std::vector<double> trodden(static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows),
-                                1);
-    std::vector<Road> roads;
-    for (const auto& [a, b] : links(places))
-        roads.push_back({class_between(places[a], places[b]),
-                         cheapest_way(grid, places[a].point, places[b].point, trodden)});
-    // Roads lead on beyond the sheet.
-    const auto leave = [&](RoadClass kind, std::size_t place, QPointF edge) {
-        roads.push_back({kind, cheapest_way(grid, places[place].point, edge, trodden)});
-    };
-    for (std::size_t i = 0; i < places.size(); ++i) {
-        if (places[i].name == "Tichoborsk") leave(RoadClass::highway, i, {0, places[i].point.y() - 120});
-        if (places[i].name == "Suchoj Shernowez")
-            leave(RoadClass::improved, i, {static_cast<double>(terrain.width), places[i].point.y() - 200});
-        if (places[i].name == "Bolschaja Kruschina")
-            leave(RoadClass::highway, i, {places[i].point.x() - 500, static_cast<double>(terrain.height)});
-        if (places[i].name == "Lerchenau") leave(RoadClass::country, i, {places[i].point.x() + 90, 0});
+QPointF on_dry_ground(const Terrain& terrain, QPointF point) {
+    constexpr double from_water = 45;
+    constexpr double step = 70;
+    QPointF best = point;
+    for (int i = 0; i < 16 && terrain.river_distance.at(point) < from_water; ++i) {
+        const double angle = i * 0.3927;
+        const QPointF candidate = point + QPointF(step * std::cos(angle), step * std::sin(angle));
+        if (terrain.river_distance.at(candidate) > terrain.river_distance.at(best)) best = candidate;
     }
-    return roads;
+    return best;
+}
+
+std::vector<Road> build_roads(const Terrain& terrain, const std::vector<Place>& places) {
+    Building country(terrain);
+    // Roads lead on beyond the sheet.
+    for (const Place& place : places) {
+        const QPointF at = place.point;
+        if (place.name == "Tichoborsk") country.build(RoadClass::highway, at, {0, at.y() - 120});
+        if (place.name == "Suchoj Shernowez")
+            country.build(RoadClass::improved, at, {static_cast<double>(terrain.width), at.y() - 200});
+        if (place.name == "Bolschaja Kruschina")
+            country.build(RoadClass::highway, at, {at.x() - 500, static_cast<double>(terrain.height)});
+        if (place.name == "Lerchenau") country.build(RoadClass::country, at, {at.x() + 90, 0});
+    }
+    for (const auto& [a, b] : links(places))
+        country.build(class_between(places[a], places[b]), on_dry_ground(terrain, places[a].point),
+                      on_dry_ground(terrain, places[b].point));
+    return country.roads;
 }
 
 std::vector<QPointF> railway(int map_height) {

@@ -183,16 +183,23 @@ void Sheet::ravine_edges() {
         painter.setBrush(Qt::NoBrush);
         painter.drawPath(
             path_of({ravine.begin() + static_cast<std::ptrdiff_t>(ravine.size() / 3), ravine.end()}));
-        for (std::size_t i = 2; i < steep_end; ++i) {
-            const QPointF side = across(direction(ravine, i));
-            const double open = 5 + 4 * std::min(1.0, static_cast<double>(i) / 30);
-            for (const double sign : {-1.0, 1.0}) {
-                const QPointF edge = ravine[i] + side * sign * open;
-                const QPointF last = ravine[i - 1] + side * sign * open;
+        // The sides meet at both ends.
+        const auto open = [&](std::size_t i) {
+            const auto from_head = static_cast<double>(i);
+            const auto to_end = static_cast<double>(steep_end - i);
+            const double half_width = 5 + 4 * std::min(1.0, from_head / 30);
+            return half_width * std::sqrt(std::min({1.0, from_head / 5, to_end / 12}));
+        };
+        for (const double sign : {-1.0, 1.0}) {
+            QPointF last = ravine.front();
+            for (std::size_t i = 1; i <= steep_end && i < ravine.size(); ++i) {
+                const QPointF side = across(direction(ravine, i)) * sign;
+                const QPointF edge = ravine[i] + side * open(i);
                 painter.setPen(pen(brown, 1.6));
                 painter.drawLine(last, edge);
                 painter.setPen(pen(brown, 1));
-                painter.drawLine(edge, edge - side * sign * 4);
+                if (open(i) > 4.5) painter.drawLine(edge, edge - side * 4);
+                last = edge;
             }
         }
     }
@@ -304,9 +311,10 @@ void Sheet::settlement(const Place& place) {
     int seed = place.population;
     for (const auto& line : lines) street(painter, line, place, ++seed);
     if (place.notes.contains("church") || place.is_town()) {
+        const QPointF church = on_dry_ground(terrain, place.point);
         painter.setPen(pen(black, 2));
-        painter.drawLine(place.point + QPointF(0, -12), place.point + QPointF(0, 2));
-        painter.drawLine(place.point + QPointF(-4, -8), place.point + QPointF(4, -8));
+        painter.drawLine(church + QPointF(0, -12), church + QPointF(0, 2));
+        painter.drawLine(church + QPointF(-4, -8), church + QPointF(4, -8));
     }
 }
 

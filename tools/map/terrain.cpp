@@ -32,6 +32,15 @@ double ramp(double value, double from, double to) {
     return t * t * (3 - 2 * t);
 }
 
+/// Whether water that came this way stands in a hollow by now and runs about in it.
+bool turns_back(const std::vector<QPointF>& way, QPointF p) {
+    constexpr std::size_t steps = 8;
+    constexpr double room = 36;
+    for (std::size_t i = 0; i + steps < way.size(); ++i)
+        if (std::hypot(way[i].x() - p.x(), way[i].y() - p.y()) < room) return true;
+    return false;
+}
+
 } // namespace
 
 Terrain::Terrain(int map_width, int map_height)
@@ -89,7 +98,7 @@ void Terrain::cut_ravines() {
             if (far < 260 || far > 1500 || chance(gx, gy, 33) < 0.35) continue;
             std::vector<QPointF> way;
             QPointF course(0, 0);
-            for (int step = 0; step < 400 && river_distance.at(p) > 28; ++step) {
+            for (int step = 0; step < 400 && river_distance.at(p) > 28 && !turns_back(way, p); ++step) {
                 way.push_back(p);
                 const QPointF down = before.slope(p);
                 const double length = std::hypot(down.x(), down.y());
