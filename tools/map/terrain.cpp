@@ -32,6 +32,13 @@ double ramp(double value, double from, double to) {
     return t * t * (3 - 2 * t);
 }
 
+/// How far down a river's course a place lies, 0 at its source and 1 at its end. By the straight line between
+/// these: by the nearest bend the land would have steps where another bend becomes the nearest.
+double downstream(const std::vector<QPointF>& river, QPointF p) {
+    const QPointF course = river.back() - river.front();
+    return QPointF::dotProduct(p - river.front(), course) / QPointF::dotProduct(course, course);
+}
+
 /// Whether water that came this way stands in a hollow by now and runs about in it.
 bool turns_back(const std::vector<QPointF>& way, QPointF p) {
     constexpr std::size_t steps = 8;
@@ -70,15 +77,15 @@ void Terrain::shape_heights() {
             const QPointF p(column * Field::spacing, row * Field::spacing);
             const Nearest main = nearest_on(tolva, p);
             const Nearest side = nearest_on(ozimka, p);
-            const double level_main = 112 - 14 * main.along;
-            const double level_side = 117 - 13 * side.along;
-            const bool near_main = main.distance < side.distance;
+            const double level_main = 112 - 14 * downstream(tolva, p);
+            const double level_side = 117 - 13 * downstream(ozimka, p);
             const double distance = std::min(main.distance, side.distance);
             const double blend = std::clamp((side.distance - main.distance) / 600 + 0.5, 0.0, 1.0);
             const double level = std::lerp(level_side, level_main, blend);
             // The right bank is high and near, the left one low and far, as on the rivers of the steppe.
-            const QPointF down = near_main ? QPointF(0.6, 0.55) : QPointF(-0.6, 0.4);
-            const double bank = noise(p.x(), p.y(), 900, 3) + (down.y() * p.x() - down.x() * p.y()) / 9000;
+            const double right_of_main = (0.55 * p.x() - 0.6 * p.y()) / 9000;
+            const double right_of_side = (0.4 * p.x() + 0.6 * p.y()) / 9000;
+            const double bank = noise(p.x(), p.y(), 900, 3) + std::lerp(right_of_side, right_of_main, blend);
             const double reach = 330 + 170 * std::clamp(bank, -1.0, 1.0);
             const double valley = 48 * ramp(distance, 50, 50 + reach * 2.4) + distance / 150 * 1.3;
             const double away = ramp(distance, 90, 700);
