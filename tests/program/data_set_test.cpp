@@ -163,6 +163,17 @@ TEST_F(DataSet, OperationIsWholeAndEveryHeadquartersCanBeShown) {
     EXPECT_TRUE(platform.messages.empty()) << platform.texts().front();
 }
 
+TEST_F(DataSet, NoMarkerOfTheOperationHidesAnother) {
+    platform.chosen_files = {source + "/campaigns/polynya.tvn"};
+    cmdLoad_Click(program);
+    const auto units = program.campaign.colUnits->items();
+    for (std::size_t i = 0; i < units.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            EXPECT_FALSE(std::abs(units[i]->xcoord - units[j]->xcoord) < 29 &&
+                         std::abs(units[i]->ycoord - units[j]->ycoord) < 31)
+                << units[i]->name << " and " << units[j]->name;
+}
+
 TEST_F(DataSet, SmallCampaignIsSmall) {
     load_force_elements(program);
     platform.chosen_files = {source + "/campaigns/first steps.tvn"};

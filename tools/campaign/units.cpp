@@ -74,6 +74,30 @@ void UnitMaker::make(const std::vector<Formation>& formations) {
         tree(formation, formation.name, formation.deployment, nullptr);
 }
 
+bool UnitMaker::is_free(Point place) const {
+    constexpr double width = 30; // of a marker and a pixel between
+    constexpr double height = 32;
+    for (const auto& unit : program.campaign.colUnits)
+        if (std::abs(unit->xcoord - place.x) < width && std::abs(unit->ycoord - place.y) < height)
+            return false;
+    return true;
+}
+
+/// The nearest place where the marker hides no other one, looked for in rings around the one that the plan
+/// gives.
+Point UnitMaker::free_place(Point wanted) const {
+    constexpr double between_rings = 10;
+    constexpr int directions = 12;
+    for (int ring = 0; ring < 20; ++ring)
+        for (int i = 0; i < directions; ++i) {
+            const double angle = i * 2 * std::numbers::pi / directions;
+            const Point place{wanted.x + ring * between_rings * std::cos(angle),
+                              wanted.y + ring * between_rings * std::sin(angle)};
+            if (is_free(place)) return place;
+        }
+    return wanted;
+}
+
 std::shared_ptr<oUnits> UnitMaker::unit(const Formation& formation, const std::string& name,
                                         const Deployment& where, oUnits* headquarters) {
     auto made = std::make_shared<oUnits>();
@@ -84,8 +108,9 @@ std::shared_ptr<oUnits> UnitMaker::unit(const Formation& formation, const std::s
     made->symbol = std::string("\\data\\forces\\") + (allied ? "allied" : "axis") + " forces\\" +
                    formation.type + ".gif";
     made->color = formation.colour;
-    made->xcoord = to_int16(where.east * 150);
-    made->ycoord = to_int16((40 - where.north) * 150 + 102);
+    const Point place_of_marker = free_place({where.east * 150, (40 - where.north) * 150 + 102});
+    made->xcoord = to_int16(place_of_marker.x);
+    made->ycoord = to_int16(place_of_marker.y);
     made->name = name;
     made->echelon = echelon_of_file_name(formation.type);
     made->nationality = formation.nationality;

@@ -20,6 +20,8 @@ class UnitMaker {
                                  oUnits* headquarters);
     void tree(const Formation& formation, const std::string& name, const Deployment& where,
               oUnits* headquarters);
+    bool is_free(Point place) const;
+    Point free_place(Point wanted) const;
     void add_holdings(oUnits& unit);
     /// What such a unit holds: by its nation, else by its side, else as a headquarters of its echelon.
     const std::vector<Holding>& listed(const oUnits& unit) const;
