@@ -16,9 +16,9 @@ const Bounds& line_bounds(const oLines& line) {
         [&] { return line.colCoords.count() < 2 ? Bounds::nothing() : box_of(line.colCoords); });
 }
 
-/// What a boundary can touch between two places. Its halves follow a heading of whole degrees, so that they
-/// stray from a long segment.
-Bounds boundary_bounds(const Bounds& ends, int width) {
+/// What a line can touch between two places, or in a box around several. A boundary's halves follow a heading
+/// of whole degrees, so that they stray from a long segment.
+Bounds reach_of_line(const Bounds& ends, int width) {
     constexpr double sign = 40;
     constexpr double straying = 0.02;
     const double length = ends.right - ends.left + ends.bottom - ends.top;
@@ -30,7 +30,7 @@ void draw_boundary(Surface& map, const oLines& line) {
     bool first = true;
     for (const auto& vertex : line.colCoords) {
         const Point here = place_of(*vertex);
-        if (!first && map.wants(boundary_bounds(bounds_of(last, here), line.linewidth))) {
+        if (!first && map.wants(reach_of_line(bounds_of(last, here), line.linewidth))) {
             const std::vector<Point> strokes = boundary_strokes(last, here, line.boundry_size);
             for (std::size_t i = 0; i + 1 < strokes.size(); i += 2) map.line(strokes[i], strokes[i + 1]);
         }
@@ -96,7 +96,7 @@ void draw_lines(Program& program, Painting& painting) {
         map.pen.ForeColor = line->linecolor;
         map.pen.DrawStyle = draw_style(*line);
         map.pen.DrawWidth = line->linewidth;
-        if (map.wants(boundary_bounds(bounds, line->linewidth))) draw_line(map, *line);
+        if (map.wants(reach_of_line(bounds, line->linewidth))) draw_line(map, *line);
         if (!line->is_boundry) last_plain = line.get();
         const bool is_last = position == program.campaign.colLines.count();
         if (line->is_arrow && !(is_last && last_is_open)) draw_arrowhead(map, *line, last_vertex(last_plain));
@@ -109,8 +109,11 @@ void draw_overview_lines(const Program& program, Painting& painting) {
     OverviewLines::Source source{lines_to_show(program), CornerChanges::count(), ratio,
                                  painting.overview.pen};
     if (!kept.figures || !(source == kept.source)) {
-        kept.figures = drawn_small(source);
+        auto drawn = drawn_small(source);
         kept.source = std::move(source);
+        // Most changes of corners are no change of these: who shows the old list need not paint again.
+        if (!kept.figures || !kept.figures->same_figures(*drawn) || kept.figures->pen != drawn->pen)
+            kept.figures = std::move(drawn);
     }
     painting.overview.insert(kept.figures);
 }

@@ -37,6 +37,12 @@ template <class T> class Collection {
   public:
     using Item = std::shared_ptr<T>;
 
+    Collection() = default;
+    // A list has its identity: it is shared through a CollectionRef, never copied.
+    Collection(const Collection&) = delete;
+    Collection& operator=(const Collection&) = delete;
+    ~Collection() = default;
+
     /// A walk over records that lie all over the memory: it asks for the front of each, which is what most
     /// walks want, some steps before it gets there. So a large campaign is walked about as quickly, record
     /// for record, as a small one.
@@ -177,7 +183,10 @@ template <class T> class Collection {
 
     void clear() {
         note_change();
-        *this = {};
+        records.clear();
+        keys.clear();
+        index.clear();
+        gaps = 0;
     }
     void reserve(std::size_t count) { records.reserve(count); }
 
@@ -187,7 +196,7 @@ template <class T> class Collection {
     // than hashing one, and thousands of units then carry no hash table.
     static constexpr std::size_t largest_without_index = 8;
 
-    template <class Walk> Walk walk(std::size_t from) const {
+    template <class Steps> Steps walk(std::size_t from) const {
         close_gaps();
         return {records.data() + from, records.data() + records.size()};
     }

@@ -158,6 +158,7 @@ struct MarkerDrag {
 struct SidePanels {
     PictureBox picUnitInfo{4, 296, 224, 0, 0, false};
     PictureBox picUnitTray{0, 0, 0, 0, 0, false};
+    Label lblUnitTray{"Unit tray"};
     Button cmdUTClose;
     PictureBox picDrawLines{0, 0, 0, 0, 0, false};
     PictureBox picPolygons{0, 0, 0, 0, 0, false};

@@ -70,7 +70,7 @@ struct oUnits {
     std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
     std::int16_t state = 0;     // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
     CollectionRef<oUnitForceElements> force_elements;
-    FromCorners<Bounds> route_bounds; // of all that is drawn for its waypoints
+    FromCorners<Bounds> route_bounds; // of its waypoints and their texts
     FromCorners<Bounds> area_bounds;  // of its area, as offsets from the unit
     CollectionRef<const oWaypoint> waypoints;
     CollectionRef<oCoordinates> area_of_opeartion;

@@ -2,6 +2,7 @@
 
 #include "mapview/hit_target.h"
 #include "mapview/map_view_window.h"
+#include "mapview/unit_info_rows.h"
 #include "widgets/text.h"
 
 #include <QWindow>
@@ -9,6 +10,11 @@
 #include <algorithm>
 
 namespace {
+
+bool is_shown(const ControlArray<UnitMarker>& markers, int index) {
+    return markers.has(index) && markers(index).visible && markers(index).container == Container::map &&
+           markers(index).tag != deleted_tag;
+}
 
 /// One marker: its unit's nationality, name and type, and where it is on the screen.
 class MarkerAccessible : public QAccessibleInterface {
@@ -32,7 +38,7 @@ class MarkerAccessible : public QAccessibleInterface {
     QString text(QAccessible::Text kind) const override {
         const oUnits* const shown = unit();
         if (kind != QAccessible::Name || shown == nullptr) return {};
-        return to_qt(shown->nationality + " " + shown->name + " " + shown->unittype);
+        return to_qt(full_name(*shown));
     }
 
     QRect rect() const override {
@@ -53,8 +59,8 @@ class MarkerAccessible : public QAccessibleInterface {
 
   private:
     const oUnits* unit() const {
-        const ControlArray<UnitMarker>& markers = program.main.imgUnit;
-        return markers.has(index) ? program.campaign.colUnits->look_up(markers(index).tag) : nullptr;
+        if (!is_shown(program.main.imgUnit, index)) return nullptr;
+        return program.campaign.colUnits->look_up(program.main.imgUnit(index).tag);
     }
 
     MapView& view;
@@ -64,18 +70,12 @@ class MarkerAccessible : public QAccessibleInterface {
 
 QAccessibleInterface* accessible_map(const QString& /*class_name*/, QObject* object) {
     auto* const view = dynamic_cast<MapView*>(object);
-    return view == nullptr ? nullptr : new MapAccessible(*view, view->shown());
+    return view == nullptr ? nullptr : new MapAccessible(*view, view->shown_program());
 }
 
 } // namespace
 
-void install_map_accessibility() {
-    static const bool once = [] {
-        QAccessible::installFactory(accessible_map);
-        return true;
-    }();
-    static_cast<void>(once);
-}
+void install_map_accessibility() { QAccessible::installFactory(accessible_map); }
 
 MapAccessible::MapAccessible(MapView& view, const Program& program)
     : QAccessibleWidget(&view, QAccessible::Graphic), view(view), program(program) {}
@@ -88,8 +88,7 @@ std::vector<int> MapAccessible::shown() const {
     std::vector<int> indices;
     const ControlArray<UnitMarker>& all = program.main.imgUnit;
     for (int i = 1; i <= all.upper(); ++i)
-        if (all(i).visible && all(i).container == Container::map && all(i).tag != deleted_tag)
-            indices.push_back(i);
+        if (is_shown(all, i)) indices.push_back(i);
     return indices;
 }
 
@@ -110,9 +109,11 @@ QAccessibleInterface* MapAccessible::child(int number) const {
 }
 
 QAccessibleInterface* MapAccessible::childAt(int x, int y) const {
-    const QPointF place = QPointF(view.mapFromGlobal(QPoint(x, y))) - view.origin();
+    const QPointF point = view.mapFromGlobal(QPoint(x, y));
+    const QPointF place = point - view.origin();
     const HitTarget target = hit_target(program, place.x(), place.y());
-    return target.kind == TargetKind::unit ? marker(target.index) : nullptr;
+    const bool on_marker = target.kind == TargetKind::unit && is_shown(program.main.imgUnit, target.index);
+    return on_marker && view.is_over_map(point) ? marker(target.index) : nullptr;
 }
 
 int MapAccessible::indexOfChild(const QAccessibleInterface* child) const {

@@ -29,8 +29,9 @@ class MapView : public QWidget {
     /// Repaints only where the find marker stands.
     void update_find_marker();
 
-    const Program& shown() const { return program; }
-    QPointF origin() const; // of the map, in pixels of this window
+    const Program& shown_program() const { return program; }
+    QPointF origin() const;                // of the map, in pixels of this window
+    bool is_over_map(QPointF point) const; // not over the border or the ground beside a small map
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -48,8 +49,6 @@ class MapView : public QWidget {
     const Sprites& sprites;
     EventRunner& events;
     MapLayers layers;
-    bool is_over_map(QPointF point) const; // not over the border or the ground beside a small map
-
     struct DropPlace {
         DropSite site;
         QPointF point; // in pixels of the map, the tray or the overview

@@ -5,10 +5,9 @@
 namespace {
 
 /// Puts a label where the pointer has it.
-void put(Program& program, MapLabel& label, double x, double y) {
+void put(const Program& program, MapLabel& label, double x, double y) {
     label.left = x - program.main.label_grab_x;
     label.top = y - program.main.label_grab_y;
-    program.main.bring_to_front(label);
 }
 
 } // namespace
@@ -34,6 +33,5 @@ void move_shape_by_caption(Program& program, int index, double x, double y) {
     record.ycoord = centre_y;
     outline.left = centre_x - outline.width / 2;
     outline.top = centre_y - outline.height / 2;
-    main.bring_to_front(outline);
     put(program, caption, x, y);
 }

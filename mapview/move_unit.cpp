@@ -1,5 +1,6 @@
 #include "mapview/move_unit.h"
 
+#include "core/marker_of.h"
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "mapview/frmEnterCoord.h"
@@ -90,9 +91,10 @@ void drop_markers(Program& program, Container container, double x, double y) {
     if (selected.count() < 2) return;
     for (const auto& unit : selected->items()) {
         if (unit->img_index == main.drag_index) continue;
-        UnitMarker& marker = main.imgUnit(unit->img_index);
-        marker.container = container;
-        move_unit_marker(program, unit->img_index, marker.left - a, marker.top - b);
+        UnitMarker* const marker = marker_of(main, *unit);
+        if (marker == nullptr) throw Failure{failure::no_such_control};
+        marker->container = container;
+        move_unit_marker(program, unit->img_index, marker->left - a, marker->top - b);
     }
 }
 

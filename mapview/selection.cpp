@@ -1,11 +1,12 @@
 #include "mapview/selection.h"
 
+#include "core/marker_of.h"
 #include "mapview/unit_info.h"
 
 namespace {
 
 void set_border(Program& program, const oUnits& unit, std::int16_t style) {
-    if (program.main.imgUnit.has(unit.img_index)) program.main.imgUnit(unit.img_index).border_style = style;
+    if (UnitMarker* const marker = marker_of(program.main, unit)) marker->border_style = style;
 }
 
 bool lies_inside(const UnitMarker& marker, const ShapeControl& band) {
@@ -71,12 +72,12 @@ void toggle_selection(Program& program, int index) {
     set_menus_by_count(program);
 }
 
-bool take_selected_in_hand(Program& program) {
-    if (program.campaign.colSelectedUnits.empty()) return false;
-    const int index = program.campaign.colSelectedUnits->at(1)->img_index;
-    if (!program.main.imgUnit.has(index)) return false;
-    program.main.drag_index = index;
-    return true;
+int selected_marker(const Program& program) {
+    if (program.campaign.colSelectedUnits.empty()) return 0;
+    const oUnits& unit = *program.campaign.colSelectedUnits->at(1);
+    const UnitMarker* const marker = marker_of(program.main, unit);
+    const bool on_map = marker != nullptr && marker->visible && marker->container == Container::map;
+    return on_map ? unit.img_index : 0;
 }
 
 int select_in_band(Program& program, const ShapeControl& band) {

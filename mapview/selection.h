@@ -20,8 +20,8 @@ void set_menus_by_count(Program& program);
 /// Selects a marker's unit or takes it out of the selection, as a press with Ctrl does.
 void toggle_selection(Program& program, int index);
 
-/// Makes the first selected unit's marker the one that the popup's commands act on. Whether there is one.
-bool take_selected_in_hand(Program& program);
+/// The index of the first selected unit's marker when it is shown on the map, else 0.
+int selected_marker(const Program& program);
 
 /// Selects every unit whose marker lies wholly inside the band, wherever it stands. Answers the last one's
 /// index, 0 for none.

@@ -2,6 +2,7 @@
 
 #include "core/catalogue.h"
 #include "core/identity.h"
+#include "core/marker_of.h"
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "mapview/grid_reference.h"
@@ -12,7 +13,7 @@
 namespace {
 
 void collect(const Program& program, const std::string& id, int depth, Collection<oChildren>& list) {
-    if (depth > deepest) return;
+    if (depth > listed_levels) return;
     const oUnits& unit = *program.campaign.colUnits->item(id);
     if (unit.children.empty()) return;
     for (const auto& child : unit.children) {
@@ -90,8 +91,8 @@ void clear_panel(Program& program) {
 
 void show_identity(Program& program, const oUnits& unit) {
     UnitInfoPanel& panel = program.main;
-    const bool has_marker = program.main.imgUnit.has(unit.img_index);
-    panel.imgUIunit = has_marker ? program.main.imgUnit(unit.img_index).picture : PictureId{};
+    const UnitMarker* const marker = marker_of(program.main, unit);
+    panel.imgUIunit = marker == nullptr ? PictureId{} : marker->picture;
     panel.lblUIunitname.caption = full_name(unit);
     panel.lblUIparentname.caption =
         unit.parent_ID.empty() ? "" : full_name(*program.campaign.colUnits->item(unit.parent_ID));
@@ -185,9 +186,9 @@ void show_unit_info(Program& program, const std::string& id) {
 
 void locate_unit(Program& program, const std::string& id) {
     const auto unit = program.campaign.colUnits->item(id);
+    if (marker_of(program.main, *unit) == nullptr) throw Failure{failure::no_such_control};
     for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) program.main.imgUnit(i).border_style = 0;
     center_map_on(program, unit->xcoord, unit->ycoord);
-    program.main.imgUnit(unit->img_index).border_style = 1;
     program.campaign.colSelectedUnits.drop();
     select_unit(program, unit);
     set_menus_by_count(program);

@@ -37,7 +37,7 @@ std::string element_row(const Program& program, const oUnitForceElements& elemen
 }
 
 std::string subordinate_row(const oUnits& unit, int depth) {
-    constexpr std::array<std::size_t, deepest> indents{0, 3, 7, 11, 15, 19, 23, 27, 31, 35};
+    constexpr std::array<std::size_t, listed_levels> indents{0, 3, 7, 11, 15, 19, 23, 27, 31, 35};
     return std::string(indents.at(static_cast<std::size_t>(depth) - 1), ' ') + unit.name + " " +
            unit.unittype + std::string(150, ' ') + key_mark + unit.ID;
 }

@@ -5,7 +5,7 @@
 // The rows of the unit info panel's two lists. A row of one unit or element ends in its key, out of sight.
 
 /// Levels below a unit that are listed.
-inline constexpr int deepest = 10;
+inline constexpr int listed_levels = 10;
 
 /// Nationality, name and type.
 std::string full_name(const oUnits& unit);
@@ -16,7 +16,7 @@ std::string element_row(const Program& program, const oUnitForceElements& elemen
 /// The key at the end of a row, where the list of a unit's own elements has put it.
 std::string element_key(const std::string& row);
 
-/// Name and type of a subordinate, indented by its depth below the unit, 1 to `deepest`, and its key.
+/// Name and type of a subordinate, indented by its depth below the unit, 1 to `listed_levels`, and its key.
 std::string subordinate_row(const oUnits& unit, int depth);
 /// The key behind the first mark in a subordinate's row: a mark in the name hides the key.
 std::string subordinate_key(const std::string& row);

@@ -1,5 +1,6 @@
 #include "mapview/unit_states.h"
 
+#include "core/marker_of.h"
 #include "core/trap.h"
 
 #include <array>
@@ -35,7 +36,7 @@ void refresh_unit_states(Program& program) {
     frmMain& main = program.main;
     if (!main.mnuUnitState.checked) return;
     for (const auto& unit : program.campaign.colUnits)
-        if (unit->img_index != 0 && main.imgUnit.has(unit->img_index)) show_bar(program, *unit);
+        if (marker_of(main, *unit) != nullptr) show_bar(program, *unit);
 }
 
 void mnuUnitState_Click(Program& program) {

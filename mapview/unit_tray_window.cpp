@@ -3,8 +3,8 @@
 #include "mapview/map_controls_window.h"
 #include "mapview/mouse_press_window.h"
 #include "mapview/unit_tray.h"
+#include "widgets/text.h"
 
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 
@@ -13,10 +13,6 @@ UnitTrayView::UnitTrayView(Program& program, const Sprites& sprites, MapView& ma
     : SidePanel("picUnitTray", program.main.picUnitTray, area_top, events, parent), program(program),
       sprites(sprites), map(map), events(events) {
     setMouseTracking(true);
-    title = new QLabel("Unit tray", this);
-    title->setObjectName("lblUnitTray");
-    title->setAlignment(Qt::AlignHCenter);
-    title->setAttribute(Qt::WA_TransparentForMouseEvents);
     close =
         bind.button("cmdUTClose", "Hide", program.main.cmdUTClose, [&program] { cmdUTClose_Click(program); });
 }
@@ -29,7 +25,6 @@ void UnitTrayView::bring_in_step() {
 void UnitTrayView::resizeEvent(QResizeEvent* event) {
     constexpr int margin = 4;
     SidePanel::resizeEvent(event);
-    title->setGeometry(0, 3, width(), title->sizeHint().height());
     close->adjustSize();
     close->move(width() - close->width() - margin, height() - close->height() - margin);
 }
@@ -39,6 +34,9 @@ void UnitTrayView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect().adjusted(0, 3, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                     to_qt(program.main.lblUnitTray.caption)); // under the markers
     paint_tray_controls(painter, program.main, sprites);
 }
 

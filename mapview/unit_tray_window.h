@@ -4,7 +4,6 @@
 #include "mapview/map_view_window.h"
 #include "widgets/side_panel.h"
 
-class QLabel;
 class QPushButton;
 
 /// `picUnitTray`: a place to put markers aside.
@@ -30,7 +29,6 @@ class UnitTrayView : public SidePanel {
     const Sprites& sprites;
     MapView& map;
     EventRunner& events;
-    QLabel* title;
     QPushButton* close;
     HitTarget pressed;
     bool captured = false;

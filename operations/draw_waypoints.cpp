@@ -3,6 +3,9 @@
 #include "core/numbers.h"
 #include "core/unit_place.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include <array>
 
 namespace {
@@ -14,38 +17,43 @@ void draw_route(Surface& map, const oUnits& unit) {
     draw_path(map, unit.waypoints);
 }
 
-/// The texts of a waypoint, one below the other.
-std::array<std::string, 3> texts_of(const oWaypoint& waypoint) {
-    return {waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour + ":" +
-                waypoint.end_minute,
-            format_fixed(waypoint.range / 1000.0, 1, 2) + " Km, at " + number_text(waypoint.speed) + " Km/H",
-            waypoint.notes};
-}
-
-Point place_of_text(const oWaypoint& waypoint, std::size_t number) {
-    constexpr std::array<double, 3> below{8, 20, 32};
-    return {place_of(waypoint).x - 60, place_of(waypoint).y + below.at(number)};
-}
+constexpr double left_of_waypoint = 60;
 
 void print_waypoint(Surface& map, const oWaypoint& waypoint) {
+    const Point at = place_of(waypoint);
+    const double left = at.x - left_of_waypoint;
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
-    const auto texts = texts_of(waypoint);
-    for (std::size_t i = 0; i < texts.size(); ++i) map.print(place_of_text(waypoint, i), texts[i]);
+    map.print({left, at.y + 8}, waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour + ":" +
+                                    waypoint.end_minute);
+    map.print({left, at.y + 20}, format_fixed(waypoint.range / 1000.0, 1, 2) + " Km, at " +
+                                     number_text(waypoint.speed) + " Km/H");
+    map.print({left, at.y + 32}, waypoint.notes);
+}
+
+/// What mark and texts of a waypoint can touch, the texts in letters of up to twelve points.
+Bounds bounds_of_waypoint(const oWaypoint& waypoint) {
+    constexpr int largest_size = 12;
+    constexpr double em = 2.0 * largest_size;
+    constexpr std::size_t length_of_numbers = 60;
+    std::size_t letters = length_of_numbers;
+    std::ptrdiff_t line_ends = 0;
+    for (const std::string* text : {&waypoint.end_month, &waypoint.end_day, &waypoint.end_hour,
+                                    &waypoint.end_minute, &waypoint.notes}) {
+        letters += text->size();
+        line_ends += std::count(text->begin(), text->end(), '\n');
+    }
+    const Point at = place_of(waypoint);
+    return {at.x - left_of_waypoint - em, at.y - em, at.x + em * static_cast<double>(letters),
+            at.y + em * static_cast<double>(line_ends + 4)};
 }
 
 /// Where marks and texts of the unit's waypoints lie, nothing when it has none.
 const Bounds& route_bounds(const oUnits& unit) {
-    constexpr int largest_size = 12; // no layer writes in larger letters
     return unit.route_bounds.get([&] {
         Bounds bounds = Bounds::nothing();
         if (unit.waypoints.empty()) return bounds;
-        for (const auto& waypoint : unit.waypoints) {
-            bounds = bounds.with(bounds_of(place_of(*waypoint)));
-            const auto texts = texts_of(*waypoint);
-            for (std::size_t i = 0; i < texts.size(); ++i)
-                bounds = bounds.with(text_bounds(place_of_text(*waypoint, i), texts[i], largest_size));
-        }
+        for (const auto& waypoint : unit.waypoints) bounds = bounds.with(bounds_of_waypoint(*waypoint));
         return bounds;
     });
 }

@@ -2,6 +2,7 @@
 
 #include "annotation/draw_lines.h"
 #include "core/catalogue.h"
+#include "core/marker_of.h"
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "core/unit_place.h"
@@ -49,16 +50,10 @@ bool is_current(const Program& program, const oUnitForceElements& element) {
     return program.campaign.curUFE.get() == &element;
 }
 
-/// A unit that was loaded without a marker has none, and its index may by now be another one's.
-bool has_own_dot(const frmMain& main, const oUnits& unit) {
-    return unit.img_index > 0 && main.imgUnit.has(unit.img_index) &&
-           main.imgUnit(unit.img_index).tag == unit.ID;
-}
-
 void draw_on_overview(const Program& program, Surface& overview, const oUnits& unit,
                       const oUnitForceElements& element, const oForceElements& piece, std::int32_t colour) {
     const frmMain& main = program.main;
-    if (!has_own_dot(main, unit)) return;
+    if (marker_of(main, unit) == nullptr) return; // nor has it a dot
     const OverviewDot& dot = main.shpUnit(unit.img_index);
     const double ratio = main.picOverviewmap.scale_width() / main.picMap.width;
     overview.pen.DrawMode = 9;

@@ -131,7 +131,7 @@ void mnuSaveSelectedUnits_Click(Program& program) {
 }
 
 void mnuLoadUnits_Click(Program& program) {
-    const bool loaded = trap_all_but_cancel(program, " when loading units!", [&] {
+    const bool went_on = trap_all_but_cancel(program, " when loading units!", [&] {
         const std::string path = program.platform.file_dialog(unit_list_dialog(program, false));
         const Hourglass hourglass(program.platform);
         const std::string bytes = program.platform.read_file(path);
@@ -139,5 +139,5 @@ void mnuLoadUnits_Click(Program& program) {
         load_units(program, in);
         check_hierarchy(program);
     });
-    if (loaded) program.main.picMap.Refresh(); // what a list that broke off has brought is seen, too
+    if (went_on) program.main.picMap.Refresh(); // what a list that broke off has brought is seen, too
 }

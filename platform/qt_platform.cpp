@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QCursor>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
@@ -221,7 +220,7 @@ void QtPlatform::unload_main_window() {
     QApplication::quit();
 }
 
-void QtPlatform::popup_menu(const std::string& menu) { main->open_popup(menu, QCursor::pos()); }
+void QtPlatform::popup_menu(const std::string& menu) { main->open_popup(menu); }
 
 void QtPlatform::hourglass(bool on) {
     if (on == waiting) return;

@@ -5,6 +5,8 @@
 #include "mapview/keys.h"
 #include "mapview/layout.h"
 #include "mapview/map_frame_window.h"
+#include "mapview/map_mouse.h"
+#include "mapview/overview.h"
 #include "mapview/scrolling.h"
 #include "mapview/selection.h"
 #include "mapview/unit_info_window.h"
@@ -21,6 +23,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -219,20 +222,27 @@ void frmMain_window::bring_in_step(bool map_changed) {
     shown_at = stands_at;
 }
 
-void frmMain_window::open_popup(const std::string& title, const QPoint& place) {
+void frmMain_window::open_popup(const std::string& title) {
     end_capture();
-    menu(title)->popup(place);
+    menu(title)->popup(popup_place.value_or(QCursor::pos()));
 }
 
-/// The popups by the keyboard: over the map that of the selected unit, over the overview its own. The mouse
-/// opens them by its presses.
+/// The key for popups is a right press on the selected unit, or on the overview while that has the keyboard.
+/// What the mouse asks for comes by its own presses.
 void frmMain_window::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() != QContextMenuEvent::Keyboard) return;
-    if (overview->hasFocus()) open_popup(mnuOverviewPopup, overview->mapToGlobal(overview->rect().center()));
-    if (!map_view->hasFocus() || !take_selected_in_hand(program)) return;
-    const UnitMarker& marker = program.main.imgUnit(program.main.drag_index);
-    const QPointF centre(marker.left + marker.width / 2, marker.top + marker.height / 2);
-    open_popup(mnuUnitPopup, map_view->mapToGlobal((centre + map_view->origin()).toPoint()));
+    if (overview->hasFocus()) {
+        popup_place = overview->mapToGlobal(overview->rect().center());
+        events.run([this] { picOverviewmap_MouseDown(program, {right_button}); });
+    } else if (const int index = selected_marker(program); index != 0 && map_view->hasFocus()) {
+        const UnitMarker& marker = program.main.imgUnit(index);
+        const QPointF centre(marker.left + marker.width / 2, marker.top + marker.height / 2);
+        popup_place = map_view->mapToGlobal((centre + map_view->origin()).toPoint());
+        events.run([&] {
+            mouse_down(program, {TargetKind::unit, index}, {right_button, 0, centre.x(), centre.y()});
+        });
+    }
+    popup_place.reset();
 }
 
 void frmMain_window::end_capture() {

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,8 @@ class frmMain_window : public QMainWindow {
 
     /// Shows what the twins hold; the map, its rulers and the overview only where they can have changed.
     void bring_in_step(bool map_changed);
-    /// Opens a popup menu at a place of the screen.
-    void open_popup(const std::string& title, const QPoint& place);
+    /// Opens a popup menu at the pointer, or where the keyboard wants it.
+    void open_popup(const std::string& title);
     /// A dialog or a menu opens: the release of a button that is down goes there.
     void end_capture();
     /// Takes the window away; its close box is not asked.
@@ -71,5 +72,6 @@ class frmMain_window : public QMainWindow {
     QTimer blink;
     bool unloading = false;
     bool control_down = false;
-    QPointF shown_at; // where the map stood at its last repaint
+    std::optional<QPoint> popup_place; // on the screen, while a popup is opened by the keyboard
+    QPointF shown_at;                  // where the map stood at its last repaint
 };

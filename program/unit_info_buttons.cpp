@@ -18,7 +18,7 @@ constexpr std::array<UnitInfoButton, 14> rows{{
     {"elements", "cmdDeleteFE", "Delete f.e.", &Main::cmdDeleteFE, nullptr},
     {"elements", "cmdTransferFE", "Transfer f.e.", &Main::cmdTransferFE, nullptr},
     {"elements", "cmdSetFirefan", "Set firefan", &Main::cmdSetFirefan, cmdSetFirefan_Click},
-    {"map", "cmdUnitWaypoints", "Add waypt", &Main::cmdUnitWaypoints, nullptr},
+    {"map", "cmdUnitWaypoints", "Add waypt.", &Main::cmdUnitWaypoints, nullptr},
     {"map", "cmdEditWaypt", "Edit wpt.", &Main::cmdEditWaypt, nullptr},
     {"map", "cmdMoveWaypt", "Move wpt.", &Main::cmdMoveWaypt, nullptr},
     {"map", "cmdClearWaypt", "Clear wpt.", &Main::cmdClearWaypt, nullptr},

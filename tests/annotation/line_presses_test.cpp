@@ -239,6 +239,29 @@ TEST_F(LineTool, MoveOntoALabelRenewsTheArrowheadOnlyForTheLastVertex) {
     EXPECT_NE(barbs(*arrow), (std::vector<int>{0, 0, 0, 0}));
 }
 
+TEST_F(LineTool, InsertOntoAMarkerRenewsTheArrowhead) {
+    const auto arrow = add_line({{100, 100}, {200, 100}, {300, 100}});
+    arrow->is_arrow = true;
+    const auto unit = add_marked("{1}", 500, 500);
+    cmdInsertPointLine_Click(program);
+    press(100, 100);
+    press_unit(*unit);
+    EXPECT_NE(barbs(*arrow), (std::vector<int>{0, 0, 0, 0}));
+}
+
+TEST_F(LineTool, ReachIsTheSameInBothDirections) {
+    add_line({{100, 100}, {200, 100}});
+    cmdMovePoint_Click(program);
+    press(100, 102);
+    EXPECT_EQ(main.selected_point, 0);
+    press(100, 98);
+    EXPECT_EQ(main.selected_point, 0);
+    press(98, 100);
+    EXPECT_EQ(main.selected_point, 0);
+    press(101, 99);
+    EXPECT_EQ(main.selected_point, 1);
+}
+
 TEST_F(LineTool, RightPressLeavesAnOpenSingleLineAsItIs) {
     draw();
     press(100, 100);

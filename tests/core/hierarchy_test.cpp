@@ -265,9 +265,12 @@ TEST_F(Hierarchy, FailureInTheCheckIsToldAndEarlierRepairsStay) {
 
 TEST_F(Hierarchy, BothCommandsPaintTheMapAnewAfterSilentRepairs) {
     for (const auto command : {mnuCheckHQSub_Click, mnuChangeUnitID_Click}) {
+        const auto unit = add_unit("{1}", "{gone}");
         program.main.picMap.marked = false;
         command(program);
+        EXPECT_EQ(unit->parent_ID, "") << "repaired without a word";
         EXPECT_TRUE(platform.messages.empty());
         EXPECT_TRUE(program.main.picMap.marked);
+        program.campaign.colUnits.drop();
     }
 }

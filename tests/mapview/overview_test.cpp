@@ -8,6 +8,8 @@
 
 #include <cstring>
 
+#include <array>
+
 namespace {
 
 class Overview : public MapTest {
@@ -311,4 +313,28 @@ TEST_F(Overview, OptionsThatNothingReadsChangeNothing) {
     EXPECT_TRUE(overview.same_figures(program.painting.overview));
     EXPECT_TRUE(marker(*unit).visible && main.shpUnit(unit->img_index).visible);
     EXPECT_TRUE(main.lblUser(1).visible && main.shpShape(1).visible && main.lblShapeLabel(1).visible);
+}
+
+TEST_F(Overview, EachChoiceOfTheDisplayFormGoesToItsOwnOptions) {
+    auto& form = program.form<frmDisplay>();
+    struct Choice {
+        std::array<OptionButton, 2>* options;
+        bool DisplayOptions::*all;
+        bool DisplayOptions::*selected;
+    };
+    const std::vector<Choice> choices{
+        {&form.optAOO, &DisplayOptions::gDispAooAll, &DisplayOptions::gDispAooSelected},
+        {&form.optWaypt, &DisplayOptions::gDispWayptAll, &DisplayOptions::gDispWayptSelected},
+        {&form.optFirefans, &DisplayOptions::gDispFirefansAll, &DisplayOptions::gDispFirefansSelected},
+        {&form.optUSZ, &DisplayOptions::gDispUSZAll, &DisplayOptions::gDispUSZSelected}};
+    for (const Choice& each : choices) frmDisplay::choose(*each.options, 1);
+    for (const Choice& own : choices) {
+        frmDisplay::choose(*own.options, 0);
+        form.cmdOK_Click();
+        for (const Choice& each : choices) {
+            EXPECT_EQ(campaign.*each.selected, each.options == own.options);
+            EXPECT_EQ(campaign.*each.all, each.options != own.options);
+        }
+        frmDisplay::choose(*own.options, 1);
+    }
 }

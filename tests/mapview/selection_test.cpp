@@ -341,15 +341,63 @@ TEST_F(Selection, ClearingSetsTheMenusOfOne) {
     EXPECT_TRUE(main.mnuUP_delete.enabled && main.mnuUP_edit.enabled && main.mnuUP_moveto.enabled);
 }
 
-TEST_F(Selection, PopupByTheKeyboardIsForTheSelectedUnit) {
-    EXPECT_FALSE(take_selected_in_hand(program)) << "none is";
-    press_unit(*first);
+TEST_F(Selection, SelectedMarkerIsThatOfTheFirstUnitIfItIsShownOnTheMap) {
+    EXPECT_EQ(selected_marker(program), 0) << "none is selected";
     press_unit(*second);
-    main.drag_index = 0;
-    EXPECT_TRUE(take_selected_in_hand(program));
-    EXPECT_EQ(main.drag_index, second->img_index);
-    second->img_index = 900;
-    EXPECT_FALSE(take_selected_in_hand(program)) << "it has no marker";
+    EXPECT_EQ(selected_marker(program), second->img_index);
+    marker(*second).container = Container::tray;
+    EXPECT_EQ(selected_marker(program), 0);
+    marker(*second).container = Container::map;
+    marker(*second).visible = false;
+    EXPECT_EQ(selected_marker(program), 0);
+    marker(*second).visible = true;
+    second->img_index = 1;
+    EXPECT_EQ(selected_marker(program), 0) << "that is another one's";
+}
+
+TEST_F(Selection, UnitWithoutAMarkerTouchesNoOtherOnes) {
+    const auto bare = add_unit("{bare}");
+    bare->img_index = first->img_index; // taken by now
+    bare->state = 3;
+    select_unit(program, bare);
+    EXPECT_EQ(marker(*first).border_style, 0);
+    mnuUnitState_Click(program);
+    EXPECT_FALSE(main.shpUnitState.has(1) && main.shpUnitState(1).visible);
+    campaign.colSelectedUnits->add(second, "{2}");
+    main.drag_index = second->img_index;
+    drag_drop(program, DropSite::map, 800, 800);
+    EXPECT_EQ(first->xcoord, 500);
+    EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 340 when moving a unit."});
+}
+
+TEST_F(Selection, MovedMarkerComesToTheFrontAndIsShownWithItsDot) {
+    marker(*first).visible = main.shpUnit(1).visible = false;
+    move_unit_marker(program, 1, 700, 700);
+    EXPECT_GT(marker(*first).depth, marker(*second).depth);
+    EXPECT_TRUE(marker(*first).visible && main.shpUnit(1).visible);
+}
+
+TEST_F(Selection, CtrlPressTogglesBeforeTheLaterTools) {
+    cmdDrawLines_Click(program);
+    cmdStartDrawLines_Click(program);
+    press_unit(*first, left_button, ctrl_key);
+    EXPECT_EQ(selected(), 1U);
+    EXPECT_TRUE(campaign.colLines.empty());
+}
+
+TEST_F(Selection, MoveToInTheTrayKeepsTheMarkerThere) {
+    press_unit(*first);
+    marker(*first).container = Container::tray;
+    main.picUnitTray.width = 200;
+    main.picUnitTray.height = 300;
+    platform.on_modal["frmEnterCoord"] = [&](Form&) {
+        campaign.gFindX = 900;
+        campaign.gFindY = 100;
+    };
+    mnuUP_moveto_Click(program);
+    EXPECT_EQ(marker(*first).container, Container::tray);
+    EXPECT_EQ(marker(*first).left, 200 - marker(*first).width / 2);
+    EXPECT_EQ(first->xcoord, 900);
 }
 
 TEST_F(Selection, EachBandBeginsWithNoSize) {

@@ -242,6 +242,11 @@ TEST_F(UnitInfo, UnitWithoutAMarkerIsShownWithoutAPictureAndCantBeLocated) {
     EXPECT_EQ(main.imgUIunit, 0);
     EXPECT_TRUE(platform.messages.empty());
     EXPECT_EQ(failure_of([&] { locate_unit(program, "{bare}"); }), failure::no_such_control);
+    bare->img_index = unit->img_index; // taken by now
+    show_unit_info(program, "{bare}");
+    EXPECT_EQ(main.imgUIunit, 0);
+    EXPECT_EQ(failure_of([&] { locate_unit(program, "{bare}"); }), failure::no_such_control);
+    EXPECT_EQ(marker(*unit).border_style, 1) << "nothing has changed";
 }
 
 TEST_F(UnitInfo, ShowingAUnitEmptiesTheListOfSubordinates) {

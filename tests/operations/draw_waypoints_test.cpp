@@ -93,13 +93,11 @@ TEST_F(Waypoints, BeingSetAreTheActiveUnitsRouteAlone) {
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 77 fill 0 style 1 dash 0 width 3 mode 13");
     painting.map.clear();
     program.campaign.gDispWayptData = false;
-    const auto own = unit;
     unit = program.campaign.colUnits->item("{2}");
     add_waypoint(50, 60);
     draw_waypoints(program, painting);
     EXPECT_EQ(told(painting.map), (Told{"line 0,0 50,60", "circle 50,60 r3"}))
         << "the other layer leaves this unit out and no other";
-    unit = own;
 }
 
 TEST_F(Waypoints, BeingSetNeedAUnitWithOne) {

@@ -99,6 +99,18 @@ TEST_F(MainFileReader, DialogIsAsToldAndCancelDoesNothingButEnableFourButtons) {
     EXPECT_FALSE(toolbar.cmdRangecheck.enabled);
     EXPECT_TRUE(platform.messages.empty());
     EXPECT_FALSE(program.main.picMap.marked);
+    EXPECT_EQ(std::count(platform.log.begin(), platform.log.end(), "hourglass on"), 0) << "not on by then";
+}
+
+TEST_F(MainFileReader, AbsolutePictureOfANewVersionIsMissing) {
+    oUnits absolute = unit("{U}");
+    absolute.symbol = "C:\\x\\data\\forces\\a.gif";
+    platform.marker_failures[folder + absolute.symbol] = 53;
+    load(units({absolute}));
+    EXPECT_EQ(platform.marker_loads.at(0), folder + absolute.symbol);
+    EXPECT_EQ(platform.texts(),
+              std::vector<std::string>{"Unable to load unit image '" + folder + absolute.symbol +
+                                       "'.\nSetting unit image to blank."});
 }
 
 TEST_F(MainFileReader, MissingFileIsToldWithSequence0AndUnreadableWith75) {

@@ -47,6 +47,7 @@ class UnitList : public MapTest {
         campaign.colUnits.drop();
         campaign.gNextUnitIndex = 1;
         main.imgUnit.unload_from(1);
+        main.shpUnit.unload_from(1);
     }
 };
 
@@ -176,9 +177,41 @@ TEST_F(UnitList, ListComesBackWithMarkersAndCheckedLinks) {
     EXPECT_EQ(dialog.filter, "uni|*.uni");
     EXPECT_EQ(dialog.directory, folder);
     EXPECT_FALSE(dialog.saving);
-    const auto on = std::find(platform.log.rbegin(), platform.log.rend(), "hourglass on");
-    EXPECT_LT(std::find(platform.log.rbegin(), platform.log.rend(), "hourglass off"), on);
-    EXPECT_NE(std::find(platform.log.rbegin(), on, "read list"), on) << "read while the hourglass runs";
+    const auto last = [&](const std::string& entry) {
+        const auto found = std::find(platform.log.rbegin(), platform.log.rend(), entry);
+        EXPECT_NE(found, platform.log.rend()) << entry;
+        return platform.log.rend() - found;
+    };
+    EXPECT_LT(last("file dialog"), last("hourglass on"));
+    EXPECT_LT(last("hourglass on"), last("read list"));
+    EXPECT_LT(last("read list"), last("hourglass off"));
+}
+
+TEST_F(UnitList, LoadingRaisesNoLabels) {
+    MapLabel& label = main.lblUser.load(1);
+    label.visible = true;
+    add("{A}");
+    const std::string bytes = saved(mnuSaveAllUnits_Click);
+    forget_units();
+    const long depth = label.depth;
+    load(bytes);
+    EXPECT_EQ(label.depth, depth);
+}
+
+TEST_F(UnitList, RepeatedKeyInAUnitThatIsDroppedCountsToo) {
+    add("{A}");
+    auto element = std::make_shared<oUnitForceElements>();
+    element->ID = "{F}";
+    campaign.colUnits->item("{A}")->force_elements->add(element, "first");
+    campaign.colUnits->item("{A}")->force_elements->add(element, "second");
+    add("{B}");
+    const std::string bytes = saved(mnuSaveAllUnits_Click);
+    forget_units();
+    add("{A}");
+    platform.answers = {Answer::no};
+    load(bytes);
+    EXPECT_TRUE(campaign.colUnits->contains("{B}"));
+    EXPECT_EQ(campaign.gNextUnitIndex, 2) << "{B} has got no marker";
 }
 
 TEST_F(UnitList, ListThatBreaksOffLeavesWhatItBroughtUncheckedButSeen) {
@@ -272,7 +305,8 @@ TEST_F(UnitList, RepeatedKeyInAUnitsListsStopsMarkersForTheRestOfTheList) {
     load(bytes);
     EXPECT_EQ(campaign.colUnits.count(), 4U);
     EXPECT_EQ(campaign.gNextUnitIndex, 2);
-    EXPECT_EQ(campaign.colUnits->item("{4}")->img_index, 2);
+    for (const char* id : {"{2}", "{3}", "{4}"}) EXPECT_EQ(campaign.colUnits->item(id)->img_index, 2);
+    EXPECT_FALSE(main.imgUnit.has(2) || main.shpUnit.has(2));
     forget_units();
     add("{5}");
     const std::string sound = saved(mnuSaveAllUnits_Click);

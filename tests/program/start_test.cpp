@@ -353,6 +353,7 @@ TEST_F(Start, SplashCantBeClosedByTheUser) {
 TEST_F(Start, HourglassRunsUntilTheReferenceFilesAreRead) {
     run();
     const auto off = std::find(platform.log.begin(), platform.log.end(), "hourglass off");
+    ASSERT_NE(off, platform.log.end());
     const auto towns = std::find_if(platform.log.begin(), platform.log.end(), [](const std::string& entry) {
         return entry.starts_with("read ") && entry.ends_with("towns.txt");
     });

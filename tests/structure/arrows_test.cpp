@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -79,4 +80,25 @@ TEST(Arrows, RulesSeeNoWindowSystem) {
         EXPECT_FALSE(include.quoted && is_window_file(include.target))
             << include.file << ": " << include.target;
     }
+}
+
+TEST(Sources, AskNeitherEnvironmentNorSettings) {
+    const std::vector<std::string> askers{"getenv(", "qEnvironmentVariable", "QSettings",
+                                          "QProcessEnvironment", "argc"};
+    for (const std::string& room : rooms) {
+        if (!fs::exists(root / room)) continue;
+        for (const auto& entry : fs::recursive_directory_iterator(root / room)) {
+            if (!entry.is_regular_file() || entry.path().filename() == "main.cpp") continue;
+            std::ifstream in(entry.path());
+            const std::string text(std::istreambuf_iterator<char>(in), {});
+            for (const std::string& asker : askers)
+                EXPECT_EQ(text.find(asker), std::string::npos) << entry.path() << ": " << asker;
+        }
+    }
+    std::ifstream in(root / "platform" / "main.cpp");
+    const std::string text(std::istreambuf_iterator<char>(in), {});
+    EXPECT_NE(text.find("int main(int /*argc*/, char** argv)"), std::string::npos);
+    EXPECT_NE(text.find("QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, \"/dev/null\")"),
+              std::string::npos);
+    EXPECT_EQ(text.find("argv["), std::string::npos);
 }

@@ -129,14 +129,26 @@ TEST_F(Captions, OfTheLinePanel) {
 TEST_F(Captions, OfTrayAndUnitPanel) {
     desktop.click("cmdUnitTray");
     QTest::qWait(20);
-    const auto* const title = desktop.control<QLabel>("lblUnitTray");
-    EXPECT_EQ(title->text(), "Unit tray");
-    EXPECT_EQ(title->y(), 3);
-    EXPECT_EQ(title->geometry().center().x(), title->parentWidget()->rect().center().x());
+    EXPECT_EQ(desktop.program.main.lblUnitTray.caption, "Unit tray");
+    QWidget& tray = *desktop.control("picUnitTray");
+    const auto dark_pixels = [&] {
+        const QImage top = tray.grab(QRect(tray.width() / 4, 3, tray.width() / 2, 14)).toImage();
+        int count = 0;
+        for (int x = 0; x < top.width(); ++x)
+            for (int y = 0; y < top.height(); ++y) count += top.pixelColor(x, y).lightness() < 100 ? 1 : 0;
+        return count;
+    };
+    EXPECT_GT(dark_pixels(), 20) << "it stands at the top, in the middle";
+    desktop.program.main.lblUnitTray.caption.clear();
+    EXPECT_EQ(dark_pixels(), 0);
     EXPECT_EQ(caption_of(*desktop.window(), "cmdUTClose"), "Hide");
     std::string accumulated = caption_of(*desktop.window(), "chkShowAllFE");
     std::replace(accumulated.begin(), accumulated.end(), '\n', ' ');
     EXPECT_EQ(accumulated, "Show accumulated for all subordinate units");
+    EXPECT_EQ(caption_of(*desktop.window(), "cmdHierarchy"), "CoC");
+    EXPECT_EQ(caption_of(*desktop.window(), "cmdUnitWaypoints"), "Add waypt.");
+    EXPECT_EQ(caption_of(*desktop.window(), "cmdEditWaypt"), "Edit wpt.");
+    EXPECT_EQ(caption_of(*desktop.window(), "cmdMoveWaypt"), "Move wpt.");
 }
 
 TEST_F(Captions, OfTheFixedWindows) {

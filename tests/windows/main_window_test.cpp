@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QToolButton>
 #include <QWheelEvent>
 #include <QWindow>
@@ -298,7 +299,8 @@ TEST_F(MainWindow, FileNameWithoutExtensionGetsThatOfTheFilter) {
 }
 
 TEST_F(MainWindow, PresentFileIsAskedAboutUnderTheNameWithItsExtension) {
-    const QString present = QDir::tempPath() + "/present campaign.tvn";
+    const QTemporaryDir directory;
+    const QString present = directory.path() + "/present campaign.tvn";
     QFile file(present);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
@@ -307,23 +309,25 @@ TEST_F(MainWindow, PresentFileIsAskedAboutUnderTheNameWithItsExtension) {
     desktop->with_dialog(
         [&] {
             chosen = desktop->platform.file_dialog(
-                {"t", QDir::tempPath().toStdString(), "tvn|*.tvn", "", true, true});
+                {"t", directory.path().toStdString(), "tvn|*.tvn", "", true, true});
         },
         [&](QWidget* dialog) {
             EXPECT_EQ(dialog->windowTitle(), "t");
             auto* const edit = dialog->findChild<QLineEdit*>("fileNameEdit");
-            edit->setText(QDir::tempPath() + "/present campaign");
-            QTimer::singleShot(60, [&] {
+            edit->setText(directory.path() + "/present campaign");
+            QTimer poll;
+            QObject::connect(&poll, &QTimer::timeout, [&] {
                 auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-                ASSERT_NE(box, nullptr);
+                if (box == nullptr) return;
+                poll.stop();
                 question = box->text();
                 QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
             });
+            poll.start(20);
             QTest::keyClick(edit, Qt::Key_Return);
         });
     EXPECT_TRUE(question.contains("present campaign.tvn")) << question.toStdString();
     EXPECT_EQ(chosen, present.toStdString());
-    file.remove();
 }
 
 TEST_F(MainWindow, FontsOfOtherSystemsHaveAStandInWithTheSameWidths) {

@@ -75,10 +75,9 @@ void UnitMaker::make(const std::vector<Formation>& formations) {
 }
 
 bool UnitMaker::is_free(Point place) const {
-    constexpr double width = 30; // of a marker and a pixel between
-    constexpr double height = 32;
     for (const auto& unit : program.campaign.colUnits)
-        if (std::abs(unit->xcoord - place.x) < width && std::abs(unit->ycoord - place.y) < height)
+        if (std::abs(unit->xcoord - place.x) < marker_width + 1 &&
+            std::abs(unit->ycoord - place.y) < marker_height + 1)
             return false;
     return true;
 }
@@ -95,7 +94,7 @@ Point UnitMaker::free_place(Point wanted) const {
                               wanted.y + ring * between_rings * std::sin(angle)};
             if (is_free(place)) return place;
         }
-    return wanted;
+    throw std::runtime_error("too many units in one place");
 }
 
 std::shared_ptr<oUnits> UnitMaker::unit(const Formation& formation, const std::string& name,

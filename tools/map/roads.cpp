@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <numbers>
 #include <queue>
 
 namespace {
@@ -108,7 +109,8 @@ QPointF joined(const std::vector<Road>& roads, QPointF point) {
 /// The country's roads while they are being built.
 struct Building {
     const Grid grid;
-    std::vector<double> trodden; // by node: how much less a road costs that is there already
+    std::vector<double>
+        trodden; // by node: the factor of what a road costs there, below 1 where one is already
     std::vector<Road> roads;
 
     explicit Building(const Terrain& terrain)
@@ -192,7 +194,7 @@ QPointF on_dry_ground(const Terrain& terrain, QPointF point) {
     constexpr double step = 70;
     QPointF best = point;
     for (int i = 0; i < 16 && terrain.river_distance.at(point) < from_water; ++i) {
-        const double angle = i * 0.3927;
+        const double angle = i * std::numbers::pi / 8;
         const QPointF candidate = point + QPointF(step * std::cos(angle), step * std::sin(angle));
         if (terrain.river_distance.at(candidate) > terrain.river_distance.at(best)) best = candidate;
     }
@@ -203,7 +205,7 @@ std::vector<Road> build_roads(const Terrain& terrain, const std::vector<Place>& 
     Building country(terrain);
     // Roads lead on beyond the sheet.
     for (const Place& place : places) {
-        const QPointF at = place.point;
+        const QPointF at = on_dry_ground(terrain, place.point);
         if (place.name == "Tichoborsk") country.build(RoadClass::highway, at, {0, at.y() - 120});
         if (place.name == "Suchoj Shernowez")
             country.build(RoadClass::improved, at, {static_cast<double>(terrain.width), at.y() - 200});

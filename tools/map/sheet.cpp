@@ -192,7 +192,7 @@ void Sheet::ravine_edges() {
         };
         for (const double sign : {-1.0, 1.0}) {
             QPointF last = ravine.front();
-            for (std::size_t i = 1; i <= steep_end && i < ravine.size(); ++i) {
+            for (std::size_t i = 1; i <= steep_end; ++i) {
                 const QPointF side = across(direction(ravine, i)) * sign;
                 const QPointF edge = ravine[i] + side * open(i);
                 painter.setPen(pen(brown, 1.6));
