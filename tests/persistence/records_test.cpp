@@ -131,13 +131,32 @@ TEST(Records, LaterChildElementOrWaypointUnderOneKeyIsDroppedAndTold) {
     const std::string head =
         "\"\",0,\"\",\"\",\"\",\"{U}\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",1,2,3,4,\"\",\"\","
         "\"Line unit\",0\r\n";
-    const std::string bytes = head + "2\r\n\"{C}\",\"first\"\r\n\"{C}\",\"second\"\r\n0\r\n0\r\n0\r\n";
-    FieldReader in(bytes);
-    bool duplicate = false;
-    const auto unit = read_unit(in, newest, duplicate);
-    EXPECT_TRUE(duplicate);
-    EXPECT_EQ(unit->children.count(), 1U);
-    EXPECT_EQ(unit->children->item("{C}")->name, "first");
+    const std::string none = "0\r\n";
+    const auto twice = [](const std::string& record) {
+        std::string second = record;
+        second.replace(second.find("first"), 5, "second");
+        return "2\r\n" + record + "\r\n" + second + "\r\n";
+    };
+    const auto read = [&](const std::string& lists) {
+        const std::string bytes = head + lists;
+        FieldReader in(bytes);
+        bool duplicate = false;
+        const auto unit = read_unit(in, newest, duplicate);
+        EXPECT_TRUE(duplicate) << lists;
+        return unit;
+    };
+    const auto parent = read(twice("\"{C}\",\"first\"") + none + none + none);
+    EXPECT_EQ(parent->children.count(), 1U);
+    EXPECT_EQ(parent->children->item("{C}")->name, "first");
+    const auto armed = read(none + twice("\"{F}\",60,\"Regular\",1,9,215,2,1,\"first\"") + none + none);
+    EXPECT_EQ(armed->force_elements.count(), 1U);
+    EXPECT_EQ(armed->force_elements->item("{F}")->free_text, "first");
+    const std::string waypoint =
+        "\"25\",\"08\",\"30\",\"November\",\"1942\",\"{W}\",\"first\",4.5,\"25\",\"07\","
+        "\"00\",\"November\",\"1942\",300.5,450,6750";
+    const auto moving = read(none + none + none + twice(waypoint));
+    EXPECT_EQ(moving->waypoints.count(), 1U);
+    EXPECT_EQ(moving->waypoints->item("{W}")->notes, "first");
 }
 
 TEST(Records, Shape) {

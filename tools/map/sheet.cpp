@@ -72,10 +72,17 @@ template <class Draw> void level_line(const Field& field, double level, Draw dra
         }
 }
 
+/// A village at a ford stands where its road leads; only a town has streets on both banks.
+std::vector<Place> on_their_banks(const Terrain& terrain, std::vector<Place> places) {
+    for (Place& place : places)
+        if (!place.is_town()) place.point = on_dry_ground(terrain, place.point);
+    return places;
+}
+
 } // namespace
 
 Sheet::Sheet(const Terrain& country, const std::vector<Place>& all_places)
-    : terrain(country), places(all_places), roads(build_roads(country, all_places)),
+    : terrain(country), places(on_their_banks(country, all_places)), roads(build_roads(country, all_places)),
       rails(railway(country.height)), image(country.width, country.height, QImage::Format_RGB32) {}
 
 QImage Sheet::draw() {

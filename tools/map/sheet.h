@@ -39,7 +39,7 @@ class Sheet {
     void halo_text(QPointF baseline, const QString& text, const QFont& font, const QColor& colour);
 
     const Terrain& terrain;
-    const std::vector<Place>& places;
+    const std::vector<Place> places;
     std::vector<Road> roads;
     std::vector<QPointF> rails;
     std::vector<QRectF> taken; // by texts and signs
