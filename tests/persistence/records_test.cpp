@@ -141,7 +141,7 @@ TEST(Records, LaterChildElementOrWaypointUnderOneKeyIsDroppedAndTold) {
         const std::string bytes = head + lists;
         FieldReader in(bytes);
         bool duplicate = false;
-        const auto unit = read_unit(in, newest, duplicate);
+        auto unit = read_unit(in, newest, duplicate);
         EXPECT_TRUE(duplicate) << lists;
         return unit;
     };

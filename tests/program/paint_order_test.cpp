@@ -127,6 +127,7 @@ TEST_F(PaintOrder, AreaInHandLiesUnderThePathAndTheSelectedOneUnderAllAreas) {
         picMap_Paint(program);
         const std::vector<std::string> figures = told(program.painting.map);
         std::vector<int> found;
+        found.reserve(starts.size());
         for (const std::string& start : starts) found.push_back(place_of_first(figures, start));
         return found;
     };
