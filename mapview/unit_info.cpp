@@ -1,7 +1,6 @@
 #include "mapview/unit_info.h"
 
 #include "core/catalogue.h"
-#include "core/identity.h"
 #include "core/marker_of.h"
 #include "core/numbers.h"
 #include "core/trap.h"
