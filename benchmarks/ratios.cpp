@@ -23,7 +23,7 @@ class MedianReporter : public benchmark::ConsoleReporter {
 } // namespace
 
 int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios) {
-    std::vector<std::string> options{"--benchmark_repetitions=15",
+    std::vector<std::string> options{"--benchmark_repetitions=31", "--benchmark_min_time=0.1",
                                      "--benchmark_enable_random_interleaving=true",
                                      "--benchmark_report_aggregates_only=true"};
     std::vector<char*> arguments{argv[0]};

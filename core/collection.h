@@ -5,29 +5,35 @@
 #include "core/key_index.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-/// The key of a record, or none. Most records of a campaign are vertices without one, and a walk over them is
-/// the quicker the less lies between them.
+/// The key of a record, or none. An ID lies in the key itself, so that looking up thousands of them goes
+/// through one block of memory; only a longer text has a place of its own.
 class RecordKey {
   public:
     RecordKey() = default;
-    explicit RecordKey(std::string_view text)
-        : letters(std::make_unique_for_overwrite<char[]>(text.size())), length(text.size()) {
-        text.copy(letters.get(), length);
+    explicit RecordKey(std::string_view text) : length(static_cast<std::uint32_t>(text.size())) {
+        if (text.size() > own.size()) longer = std::make_unique_for_overwrite<char[]>(text.size());
+        text.copy(longer ? longer.get() : own.data(), text.size());
     }
 
-    bool present() const { return letters != nullptr; }
-    std::string_view text() const { return {letters.get(), length}; }
+    bool present() const { return length != absent; }
+    /// The text of a present key.
+    std::string_view text() const { return {longer ? longer.get() : own.data(), length}; }
 
   private:
-    std::unique_ptr<char[]> letters;
-    std::size_t length = 0;
+    static constexpr std::uint32_t absent = 0xFFFFFFFF;
+
+    std::unique_ptr<char[]> longer;
+    std::uint32_t length = absent;
+    std::array<char, 44> own{}; // an ID has 38 letters
 };
 
 /// An ordered list of shared records that can also be reached by a text key. The order is that of insertion.
@@ -70,7 +76,7 @@ template <class T> class Collection {
     };
 
     static constexpr std::size_t cache_line = 64;
-    using Iterator = Walk<2 * cache_line>;
+    using Iterator = Walk<3 * cache_line>;
 
     /// The collection for a walk that looks at all of each record.
     class Whole {
@@ -112,15 +118,14 @@ template <class T> class Collection {
 
     /// Like `add`, but a present key is told by the answer: false, and nothing changes.
     bool add_new(Item item, std::string_view key) {
-        if (place_of(key) != none) return false;
+        const std::size_t place = records.size();
+        if (indexed() ? !index.add_new(key, place, key_at()) : place_of(key) != none) return false;
         note_change();
-        keys.resize(records.size());
-        keys.emplace_back(key);
         records.push_back(std::move(item));
-        if (indexed())
-            index.add(key, records.size() - 1);
-        else if (records.size() > largest_without_index)
-            build_index();
+        keys.reserve(records.capacity());
+        keys.resize(place);
+        keys.emplace_back(key);
+        if (!indexed() && records.size() > largest_without_index) build_index();
         return true;
     }
 
@@ -136,6 +141,12 @@ template <class T> class Collection {
     }
 
     bool contains(std::string_view key) const { return place_of(key) != none; }
+
+    /// The 1-based position of the record under the key, 0 when there is none.
+    std::size_t position(std::string_view key) const {
+        close_gaps();
+        return place_of(key) + 1; // of none that is 0
+    }
 
     /// The record under the key, or nothing.
     Item find(std::string_view key) const {
@@ -188,6 +199,7 @@ template <class T> class Collection {
         index.clear();
         gaps = 0;
     }
+    /// Makes room for so many records.
     void reserve(std::size_t count) { records.reserve(count); }
 
   private:
@@ -205,10 +217,13 @@ template <class T> class Collection {
         if constexpr (is_corner<T>) CornerChanges::add_one();
     }
 
+    auto key_at() const {
+        return [this](std::size_t place) { return keys[place].text(); };
+    }
     bool indexed() const { return !index.empty(); }
 
     std::size_t place_of(std::string_view key) const {
-        if (indexed()) return index.find(key, [this](std::size_t place) { return keys[place].text(); });
+        if (indexed()) return index.find(key, key_at());
         for (std::size_t i = 0; i < keys.size(); ++i)
             if (keys[i].present() && keys[i].text() == key) return i;
         return none;
@@ -221,9 +236,9 @@ template <class T> class Collection {
     }
 
     void build_index() const {
-        index.clear();
+        index.start(records.capacity());
         for (std::size_t i = 0; i < keys.size(); ++i)
-            if (keys[i].present()) index.add(keys[i].text(), i);
+            if (keys[i].present()) index.add_new(keys[i].text(), i, key_at());
     }
 
     void close_gaps() const {

@@ -3,46 +3,69 @@
 #include "core/identity.h"
 #include "core/trap.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace {
 
-/// Repairs the entries of one HQ; answers how many errors that count were fixed.
-int check_children(const Collection<oUnits>& units, oUnits& headquarters) {
-    if (headquarters.children.empty()) return 0;
-    int fixed = 0;
-    std::vector<std::string> wrong; // taken out when the walk is over, so that it misses no neighbour
-    for (const auto& child : headquarters.children) {
-        oUnits* const unit = units.look_up(child->ID);
-        if (unit == nullptr) {
-            wrong.push_back(child->ID);
-        } else if (unit->parent_ID.empty()) {
-            unit->parent_ID = headquarters.ID;
-            unit->parent_name = headquarters.name;
-            ++fixed;
-        } else if (unit->parent_ID != headquarters.ID) {
-            wrong.push_back(child->ID);
-            ++fixed;
-        }
-    }
-    for (const std::string& id : wrong) headquarters.children->remove(id);
-    return fixed;
-}
+/// The check of all links: first from the HQs down, then from the units up.
+class LinkCheck {
+  public:
+    explicit LinkCheck(const Collection<oUnits>& units) : units(units), linked(units.count()) {}
 
-/// Repairs the upward link of one unit; answers how many errors that count were fixed.
-int check_parent(const Collection<oUnits>& units, oUnits& unit) {
-    if (unit.parent_ID.empty()) return 0;
-    oUnits* const headquarters = units.look_up(unit.parent_ID);
-    if (headquarters == nullptr) {
-        unit.parent_ID.clear();
-        return 0;
+    /// Repairs what differs; answers how many errors that count were fixed.
+    int repair() {
+        int fixed = 0;
+        for (const auto& unit : units) fixed += check_children(*unit);
+        for (std::size_t position = 1; position <= units.count(); ++position)
+            if (!linked[position - 1]) fixed += check_parent(*units.at(position));
+        return fixed;
     }
-    if (headquarters->children->contains(unit.ID)) return 0;
-    headquarters->children->add(std::make_shared<oChildren>(oChildren{unit.ID, unit.name}), unit.ID);
-    return 1;
-}
+
+  private:
+    int check_children(oUnits& headquarters) {
+        if (headquarters.children.empty()) return 0;
+        int fixed = 0;
+        std::vector<std::string> wrong; // taken out when the walk is over, so that it misses no neighbour
+        for (const auto& child : headquarters.children) {
+            const std::size_t position = units.position(child->ID);
+            if (position == 0) {
+                wrong.push_back(child->ID);
+                continue;
+            }
+            oUnits& unit = *units.at(position);
+            if (unit.parent_ID.empty()) {
+                unit.parent_ID = headquarters.ID;
+                unit.parent_name = headquarters.name;
+                ++fixed;
+            } else if (unit.parent_ID != headquarters.ID) {
+                wrong.push_back(child->ID);
+                ++fixed;
+                continue;
+            }
+            linked[position - 1] = true;
+        }
+        for (const std::string& id : wrong) headquarters.children->remove(id);
+        return fixed;
+    }
+
+    int check_parent(oUnits& unit) const {
+        if (unit.parent_ID.empty()) return 0;
+        oUnits* const headquarters = units.look_up(unit.parent_ID);
+        if (headquarters == nullptr) {
+            unit.parent_ID.clear();
+            return 0;
+        }
+        if (headquarters->children->contains(unit.ID)) return 0;
+        headquarters->children->add(std::make_shared<oChildren>(oChildren{unit.ID, unit.name}), unit.ID);
+        return 1;
+    }
+
+    const Collection<oUnits>& units;
+    std::vector<bool> linked; // by position: both directions were seen in step from the HQ's side
+};
 
 /// The units while they are being renumbered: those that are done and those that wait.
 struct Renumbering {
@@ -51,7 +74,7 @@ struct Renumbering {
 
     /// Fails with 5 when the unit is in neither.
     oUnits& unit(const std::string& id) const {
-        if (const auto found = done.find(id)) return *found;
+        if (oUnits* const found = done.look_up(id)) return *found;
         return *waiting.item(id);
     }
 };
@@ -78,10 +101,7 @@ void renumber(Program& program, const Renumbering& units, const std::shared_ptr<
 
 void check_hierarchy(Program& program) {
     trap(program, " when checking HQ/Subordinate links.", [&] {
-        const Collection<oUnits>& units = *program.campaign.colUnits;
-        int fixed = 0;
-        for (const auto& unit : units.whole()) fixed += check_children(units, *unit);
-        for (const auto& unit : units.whole()) fixed += check_parent(units, *unit);
+        const int fixed = LinkCheck(*program.campaign.colUnits).repair();
         if (fixed > 0)
             program.platform.message(
                 {"Found and fixed a total of " + std::to_string(fixed) + " errors in the unit hierarchy."});
@@ -90,11 +110,11 @@ void check_hierarchy(Program& program) {
 
 void assign_new_ids(Program& program) {
     trap(program, " when assigning new IDs.", [&] {
-        Collection<oUnits> waiting;
-        for (const auto& unit : program.campaign.colUnits->whole()) waiting.add(unit, unit->ID);
+        const CollectionRef<oUnits> waiting = program.campaign.colUnits;
         program.campaign.colUnits.drop();
-        const Renumbering units{*program.campaign.colUnits, waiting};
-        for (const auto& unit : waiting.whole()) renumber(program, units, unit);
+        program.campaign.colUnits->reserve(waiting.count());
+        const Renumbering units{*program.campaign.colUnits, *waiting};
+        for (const auto& unit : *waiting) renumber(program, units, unit);
     });
 }
 

@@ -76,6 +76,7 @@ struct oUnits {
     CollectionRef<oCoordinates> area_of_opeartion;
     CollectionRef<oChildren> children;
     std::string ID;
+    std::string parent_ID;
     std::string affiliation; // "Allied" or "Axis"
     std::string unittype;
     std::string symbol; // picture path below the program directory, with backslashes
@@ -86,7 +87,6 @@ struct oUnits {
     std::string player_email;
     std::string gm_name;
     std::string gm_email;
-    std::string parent_ID;
     std::string parent_name;
     std::int16_t supply_req = 0; // ton/day
     std::int16_t current_supply = 0;

@@ -58,6 +58,24 @@ TEST(Collection, KeysDifferByLetterCaseAndMayBeEmpty) {
     EXPECT_FALSE(collection.add_new(record("x"), ""));
 }
 
+TEST(Collection, LongKeysDifferInTheirLastLetterToo) {
+    Collection<Record> collection;
+    const std::string beginning(500, 'k');
+    for (int i = 0; i < 20; ++i) collection.add(record(std::to_string(i)), beginning + std::to_string(i));
+    EXPECT_EQ(collection.item(beginning + "7")->name, "7");
+    EXPECT_EQ(collection.find(beginning), nullptr);
+    EXPECT_FALSE(collection.add_new(record("x"), beginning + "19"));
+}
+
+TEST(Collection, PositionOfAKeyFollowsRemovals) {
+    Collection<Record> collection;
+    for (const char* name : {"a", "b", "c"}) collection.add(record(name), name);
+    EXPECT_EQ(collection.position("c"), 3U);
+    collection.remove("a");
+    EXPECT_EQ(collection.position("c"), 2U);
+    EXPECT_EQ(collection.position("a"), 0U);
+}
+
 TEST(Collection, RecordsWithoutKeyAreNotFoundByTheEmptyKey) {
     Collection<Record> collection;
     collection.add(record("a"));
