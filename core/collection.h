@@ -91,6 +91,10 @@ template <class T> class Collection {
         const Collection& collection;
     };
 
+    /// Another number after every change of which records are listed; no two collections ever have the same
+    /// one.
+    std::uint64_t version() const { return last_change; }
+
     std::size_t count() const { return records.size() - gaps; }
     bool empty() const { return count() == 0; }
 
@@ -213,7 +217,8 @@ template <class T> class Collection {
         return {records.data() + from, records.data() + records.size()};
     }
 
-    static void note_change() {
+    void note_change() {
+        last_change = ++changes_of_all;
         if constexpr (is_corner<T>) CornerChanges::add_one();
     }
 
@@ -264,6 +269,9 @@ template <class T> class Collection {
     mutable std::vector<RecordKey> keys; // of the records in front; those behind the last key have none
     mutable KeyIndex index;
     mutable std::size_t gaps = 0;
+
+    static inline std::uint64_t changes_of_all = 0;
+    std::uint64_t last_change = ++changes_of_all;
 };
 
 /// A place that holds a collection: empty at first use, also after it was dropped. A copy of the place holds

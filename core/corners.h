@@ -2,10 +2,11 @@
 
 #include <cstdint>
 
-// Where a figure's corners lie is worked out once and kept with it, so that a paint need not look at the
-// corners of what is out of view. A count tells that any corner, or any list of them, has changed since.
+// Where figures lie is worked out once and kept, so that a paint need not look at what is out of view. Counts
+// tell that something it was worked out from has changed since.
 
-class CornerChanges {
+/// Counts changes of one kind.
+template <class Kind> class Changes {
   public:
     static std::uint64_t count() { return changes; }
     static void add_one() { ++changes; }
@@ -14,28 +15,33 @@ class CornerChanges {
     static inline std::uint64_t changes = 0;
 };
 
+/// Any corner of a figure, or any list of them.
+using CornerChanges = Changes<struct Corners>;
+/// The place of any unit on the map.
+using UnitMoves = Changes<struct UnitPlaces>;
+
 /// Whether records of this kind are corners, so that each change of a list of them counts.
 template <class T> inline constexpr bool is_corner = false;
 
-/// A coordinate of a corner that can be moved.
-class Coordinate {
+/// A coordinate whose changes are counted.
+template <class Value, class Count> class CountedCoordinate {
   public:
-    Coordinate() = default;
-    Coordinate(std::int32_t value) : value(value) {}
-    Coordinate(const Coordinate&) = default;
-    ~Coordinate() = default;
+    CountedCoordinate() = default;
+    CountedCoordinate(Value value) : value(value) {}
+    CountedCoordinate(const CountedCoordinate&) = default;
+    ~CountedCoordinate() = default;
 
-    Coordinate& operator=(std::int32_t changed) {
+    CountedCoordinate& operator=(Value changed) {
         value = changed;
-        CornerChanges::add_one();
+        Count::add_one();
         return *this;
     }
-    Coordinate& operator=(const Coordinate& other) { return *this = other.value; }
+    CountedCoordinate& operator=(const CountedCoordinate& other) { return *this = other.value; }
 
-    operator std::int32_t() const { return value; }
+    operator Value() const { return value; }
 
   private:
-    std::int32_t value = 0;
+    Value value = 0;
 };
 
 /// What was worked out from corners, good until one of them changes.

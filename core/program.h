@@ -49,6 +49,26 @@ struct OverviewLines {
     std::shared_ptr<const DrawingList> figures;
 };
 
+/// The routes and the areas of operation of all units, side by side: a paint goes over thousands of those
+/// that are out of view. Good until a unit, or what they were gathered from, changes.
+struct UnitPlans {
+    struct Plan {
+        const oUnits* unit;
+        SmallBounds bounds; // on the map, with all that is drawn of it
+    };
+    struct Source {
+        std::uint64_t units = 0; // the version of the list
+        std::uint64_t unit_moves = 0;
+        std::uint64_t corner_changes = 0;
+
+        bool operator==(const Source&) const = default;
+    };
+
+    Source source;
+    std::vector<Plan> routes;
+    std::vector<Plan> areas;
+};
+
 /// What the layers draw on. The overview's and the rulers' pens are their own.
 struct Painting {
     DrawingList map;
@@ -56,6 +76,7 @@ struct Painting {
     DrawingList vcoord;
     DrawingList overview;
     OverviewLines overview_lines;
+    UnitPlans unit_plans;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
     long number = 0;         // counts the paints

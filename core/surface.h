@@ -45,8 +45,9 @@ struct Bounds {
     }
     bool is_nothing() const { return left > right; }
 
+    // No && here: where thousands of figures lie is anyone's guess, also the processor's.
     bool meets(const Bounds& other) const {
-        return left <= other.right && other.left <= right && top <= other.bottom && other.top <= bottom;
+        return (left <= other.right) & (other.left <= right) & (top <= other.bottom) & (other.top <= bottom);
     }
     bool holds(const Bounds& other) const {
         return left <= other.left && other.right <= right && top <= other.top && other.bottom <= bottom;
@@ -62,6 +63,20 @@ struct Bounds {
         return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
                 std::max(bottom, other.bottom)};
     }
+};
+
+/// A box in half the room, for one that is kept with each of many records. Map pixels are exact in it.
+struct SmallBounds {
+    float left = 0;
+    float top = 0;
+    float right = 0;
+    float bottom = 0;
+
+    SmallBounds() = default;
+    SmallBounds(const Bounds& box)
+        : left(static_cast<float>(box.left)), top(static_cast<float>(box.top)),
+          right(static_cast<float>(box.right)), bottom(static_cast<float>(box.bottom)) {}
+    operator Bounds() const { return {left, top, right, bottom}; }
 };
 
 inline Bounds bounds_of(Point point) { return {point.x, point.y, point.x, point.y}; }

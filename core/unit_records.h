@@ -10,6 +10,9 @@
 // The records of a unit and of what it owns. Map positions are pixels of the map picture, x to the right, y
 // down, 150 to the kilometre; colours are 0x00BBGGRR. Texts are single bytes, Windows-1252.
 
+/// A coordinate of a corner that can be moved.
+using Coordinate = CountedCoordinate<std::int32_t, CornerChanges>;
+
 /// A vertex. In lines and polygons map pixels; in areas of operation offsets from the unit.
 struct oCoordinates {
     Coordinate x_cor;
@@ -62,16 +65,18 @@ struct oWaypoint {
 
 template <> inline constexpr bool is_corner<const oWaypoint> = true;
 
-/// One unit of either side. What painting asks of every unit at each refresh stands first, close together.
-struct oUnits {
+/// One unit of either side. The fields stand in the order in which they are asked for: first what painting
+/// wants of every unit at each refresh, in one line of the processor's cache; in the next line what the unit
+/// owns, then its links.
+struct alignas(64) oUnits {
     std::int32_t color = 0;
-    std::int16_t xcoord = 0; // the centre
-    std::int16_t ycoord = 0;
-    std::int16_t img_index = 0; // index of the marker; a value of this run, in no file
-    std::int16_t state = 0;     // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
+    CountedCoordinate<std::int16_t, UnitMoves> xcoord; // the centre
+    CountedCoordinate<std::int16_t, UnitMoves> ycoord;
+    std::int16_t img_index = 0;            // index of the marker; a value of this run, in no file
+    std::int16_t state = 0;                // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
+    FromCorners<SmallBounds> route_bounds; // of its waypoints and their texts
+    FromCorners<SmallBounds> area_bounds;  // of its area, as offsets from the unit
     CollectionRef<oUnitForceElements> force_elements;
-    FromCorners<Bounds> route_bounds; // of its waypoints and their texts
-    FromCorners<Bounds> area_bounds;  // of its area, as offsets from the unit
     CollectionRef<const oWaypoint> waypoints;
     CollectionRef<oCoordinates> area_of_opeartion;
     CollectionRef<oChildren> children;

@@ -3,8 +3,9 @@
 namespace {
 
 bool holds(const MapControl& control, double x, double y, Container container) {
-    return x >= control.left && x < control.left + control.width && y >= control.top &&
-           y < control.top + control.height && control.visible && control.container == container;
+    const bool within_width = (x >= control.left) & (x < control.left + control.width); // no guess, no branch
+    const bool within_height = (y >= control.top) & (y < control.top + control.height);
+    return (within_width & within_height) && control.visible && control.container == container;
 }
 
 struct Search {

@@ -1,27 +1,19 @@
 #include "operations/draw_areas.h"
 
 #include "core/unit_place.h"
+#include "operations/unit_plans.h"
 
 namespace {
 
-/// Where the area lies beside its unit, nothing when it has too few points to be one.
-const Bounds& area_bounds(const oUnits& unit) {
-    return unit.area_bounds.get([&] {
-        return unit.area_of_opeartion.count() < 3 ? Bounds::nothing() : box_of(unit.area_of_opeartion);
-    });
-}
-
-void draw_area(Surface& map, const oUnits& unit) {
-    const Bounds& bounds = area_bounds(unit);
-    if (bounds.is_nothing()) return;
+void set_area_pen(Surface& map, const oUnits& unit) {
     map.pen.DrawMode = 9;
     map.pen.FillStyle = 0;
     map.pen.DrawWidth = 1;
     map.pen.FillColor = unit.color;
     map.pen.ForeColor = 0;
-    if (map.wants(bounds.moved_by(place_of(unit)).grown_by(2)))
-        draw_closed(map, unit.area_of_opeartion, place_of(unit));
 }
+
+void draw_area(Surface& map, const oUnits& unit) { draw_closed(map, unit.area_of_opeartion, place_of(unit)); }
 
 } // namespace
 
@@ -45,7 +37,10 @@ bool selected_area_is_shown(const Program& program) {
 }
 
 void draw_selected_aoo(Program& program, Painting& painting) {
-    draw_area(painting.map, *program.campaign.curUnit);
+    const oUnits& unit = *program.campaign.curUnit;
+    if (unit.area_of_opeartion.count() < corners_of_an_area) return;
+    set_area_pen(painting.map, unit);
+    draw_area(painting.map, unit);
 }
 
 bool all_areas_are_shown(const Program& program) {
@@ -53,6 +48,13 @@ bool all_areas_are_shown(const Program& program) {
 }
 
 void draw_all_aoo(Program& program, Painting& painting) {
-    for (const auto& unit : program.campaign.colUnits)
-        if (!(program.main.drawing_aoo && unit == program.campaign.curUnit)) draw_area(painting.map, *unit);
+    const oUnits* last = nullptr;
+    for (const auto& [unit, bounds] : unit_plans(program).areas) {
+        if (program.main.drawing_aoo && unit == program.campaign.curUnit.get()) continue;
+        last = unit;
+        if (!painting.map.wants(bounds)) continue;
+        set_area_pen(painting.map, *unit);
+        draw_area(painting.map, *unit);
+    }
+    if (last != nullptr) set_area_pen(painting.map, *last); // also when it was out of view
 }

@@ -2,11 +2,7 @@
 
 #include "core/numbers.h"
 #include "core/unit_place.h"
-
-#include <algorithm>
-#include <cstddef>
-
-#include <array>
+#include "operations/unit_plans.h"
 
 namespace {
 
@@ -17,11 +13,9 @@ void draw_route(Surface& map, const oUnits& unit) {
     draw_path(map, unit.waypoints);
 }
 
-constexpr double left_of_waypoint = 60;
-
 void print_waypoint(Surface& map, const oWaypoint& waypoint) {
     const Point at = place_of(waypoint);
-    const double left = at.x - left_of_waypoint;
+    const double left = at.x - left_of_waypoint_texts;
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
     map.print({left, at.y + 8}, waypoint.end_month + " " + waypoint.end_day + ", " + waypoint.end_hour + ":" +
@@ -31,33 +25,6 @@ void print_waypoint(Surface& map, const oWaypoint& waypoint) {
     map.print({left, at.y + 32}, waypoint.notes);
 }
 
-/// What mark and texts of a waypoint can touch, the texts in letters of up to twelve points.
-Bounds bounds_of_waypoint(const oWaypoint& waypoint) {
-    constexpr int largest_size = 12;
-    constexpr double em = 2.0 * largest_size;
-    constexpr std::size_t length_of_numbers = 60;
-    std::size_t letters = length_of_numbers;
-    std::ptrdiff_t line_ends = 0;
-    for (const std::string* text : {&waypoint.end_month, &waypoint.end_day, &waypoint.end_hour,
-                                    &waypoint.end_minute, &waypoint.notes}) {
-        letters += text->size();
-        line_ends += std::count(text->begin(), text->end(), '\n');
-    }
-    const Point at = place_of(waypoint);
-    return {at.x - left_of_waypoint - em, at.y - em, at.x + em * static_cast<double>(letters),
-            at.y + em * static_cast<double>(line_ends + 4)};
-}
-
-/// Where marks and texts of the unit's waypoints lie, nothing when it has none.
-const Bounds& route_bounds(const oUnits& unit) {
-    return unit.route_bounds.get([&] {
-        Bounds bounds = Bounds::nothing();
-        if (unit.waypoints.empty()) return bounds;
-        for (const auto& waypoint : unit.waypoints) bounds = bounds.with(bounds_of_waypoint(*waypoint));
-        return bounds;
-    });
-}
-
 void draw_points(const Program& program, Surface& map, const oUnits& unit) {
     for (const auto& waypoint : unit.waypoints) {
         map.circle(place_of(*waypoint), 3);
@@ -65,32 +32,41 @@ void draw_points(const Program& program, Surface& map, const oUnits& unit) {
     }
 }
 
-void draw_unit_waypoints(const Program& program, Surface& map, const oUnits& unit) {
-    const Bounds& bounds = route_bounds(unit);
-    if (bounds.is_nothing()) return;
-    const bool wanted = map.wants(bounds.with(bounds_of(place_of(unit))).grown_by(4));
-    if (wanted) draw_route(map, unit);
+/// The pen as the waypoints of a unit leave it.
+void set_pen_behind_waypoints(const Program& program, Surface& map) {
     map.pen.DrawWidth = 1;
     map.pen.ForeColor = 0;
     map.pen.FillColor = 0;
-    map.pen.FillStyle = 0;
-    if (wanted) draw_points(program, map, unit);
     map.pen.FillStyle = 1;
     if (program.campaign.gDispWayptData) map.pen.FontBold = true;
 }
 
+void draw_unit_waypoints(const Program& program, Surface& map, const oUnits& unit) {
+    draw_route(map, unit);
+    map.pen.DrawWidth = 1;
+    map.pen.ForeColor = 0;
+    map.pen.FillColor = 0;
+    map.pen.FillStyle = 0;
+    draw_points(program, map, unit);
+    set_pen_behind_waypoints(program, map);
+}
+
 /// The waypoints of the unit in hand are left out while they are being set: a layer of their own shows them.
-void draw_all_waypoints(const Program& program, Surface& map) {
-    const Campaign& campaign = program.campaign;
+void draw_all_waypoints(Program& program, Surface& map) {
     map.pen.DrawMode = 13;
-    for (const auto& unit : campaign.colUnits)
-        if (!(program.main.set_waypoints && unit == campaign.curUnit))
+    for (const auto& [unit, bounds] : unit_plans(program).routes) {
+        if (program.main.set_waypoints && unit == program.campaign.curUnit.get()) continue;
+        if (map.wants(bounds))
             draw_unit_waypoints(program, map, *unit);
+        else
+            set_pen_behind_waypoints(program, map);
+    }
 }
 
 /// In the mode that polygons or fire missions have left.
 void draw_selected_waypoints(const Program& program, Surface& map) {
-    if (program.campaign.curUnit) draw_unit_waypoints(program, map, *program.campaign.curUnit);
+    const auto& unit = program.campaign.curUnit;
+    if (unit && !unit->waypoints.empty()) draw_unit_waypoints(program, map, *unit);
 }
 
 } // namespace

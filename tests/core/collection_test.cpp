@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -140,6 +142,27 @@ TEST(Collection, EmptiedOneStartsAnew) {
     EXPECT_TRUE(collection.empty());
     collection.add(record("y"), "3");
     EXPECT_EQ(names(collection), "y");
+}
+
+TEST(Collection, VersionIsAnotherAfterEveryChangeAndInEveryCollection) {
+    Collection<Record> collection;
+    std::set<std::uint64_t> seen{collection.version()};
+    const auto is_new = [&] { return seen.insert(collection.version()).second; };
+    collection.add(record("a"), "a");
+    EXPECT_TRUE(is_new());
+    collection.add(record("b"));
+    EXPECT_TRUE(is_new());
+    collection.insert_after(0, record("c"));
+    EXPECT_TRUE(is_new());
+    collection.remove_at(1);
+    EXPECT_TRUE(is_new());
+    collection.remove("a");
+    EXPECT_TRUE(is_new());
+    EXPECT_FALSE(collection.contains("a"));
+    EXPECT_FALSE(is_new()) << "looking changes nothing";
+    collection.clear();
+    EXPECT_TRUE(is_new());
+    EXPECT_TRUE(seen.insert(Collection<Record>().version()).second);
 }
 
 TEST(CollectionRef, DroppedOneIsEmptyAtItsNextUse) {

@@ -39,6 +39,37 @@ TEST_F(Areas, LieAroundTheirUnitMaskedInItsColour) {
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 0 fill 77 style 0 dash 0 width 1 mode 9");
 }
 
+TEST_F(Areas, FollowTheirUnitAndEveryChangeOfTheUnits) {
+    const auto drawn = [&] {
+        program.painting.map.clear();
+        draw_all_aoo(program, program.painting);
+        return told(program.painting.map);
+    };
+    program.painting.map.wanted = {0, 0, 1000, 1000};
+    EXPECT_EQ(drawn(), Told{"polygon 90,190 110,190 100,220"});
+    unit->xcoord = 300;
+    EXPECT_EQ(drawn(), Told{"polygon 290,190 310,190 300,220"});
+    unit->ycoord = 5000;
+    EXPECT_EQ(drawn(), Told{}) << "out of view";
+    program.campaign.colUnits->item("{2}")->area_of_opeartion->add(vertex(3, 3));
+    EXPECT_EQ(drawn(), Told{"polygon 1,1 2,2 3,3"});
+    program.campaign.colUnits->remove("{2}");
+    EXPECT_EQ(drawn(), Told{});
+    unit->ycoord = 200;
+    program.campaign.colUnits.drop();
+    EXPECT_EQ(drawn(), Told{});
+    program.campaign.colUnits->add(unit, unit->ID);
+    EXPECT_EQ(drawn(), Told{"polygon 290,190 310,190 300,220"});
+}
+
+TEST_F(Areas, OutOfViewLeavesItsPenAllTheSame) {
+    painting.map.wanted = {5000, 5000, 6000, 6000};
+    draw_all_aoo(program, painting);
+    EXPECT_EQ(told(painting.map), Told{});
+    EXPECT_EQ(painting.map.pen.FillColor, 77);
+    EXPECT_EQ(painting.map.pen.DrawMode, 9);
+}
+
 TEST_F(Areas, OfTheUnitBeingDrawnForIsLeftOut) {
     program.main.drawing_aoo = true;
     program.campaign.colUnits->item("{2}")->area_of_opeartion->add(vertex(3, 3));
