@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -77,6 +78,12 @@ QAccessibleInterface* accessible_map(const QString& /*class_name*/, QObject* obj
 
 void install_map_accessibility() { QAccessible::installFactory(accessible_map); }
 
+void tell_marker_changes(MapView& view) {
+    if (!QAccessible::isActive()) return;
+    auto* const face = dynamic_cast<MapAccessible*>(QAccessible::queryAccessibleInterface(&view));
+    if (face != nullptr) face->tell_changes();
+}
+
 MapAccessible::MapAccessible(MapView& view, const Program& program)
     : QAccessibleWidget(&view, QAccessible::Graphic), view(view), program(program) {}
 
@@ -122,4 +129,43 @@ int MapAccessible::indexOfChild(const QAccessibleInterface* child) const {
     const std::vector<int> indices = shown();
     const auto place = std::find(indices.begin(), indices.end(), marker->number());
     return place == indices.end() ? -1 : static_cast<int>(place - indices.begin());
+}
+
+MapAccessible::Look MapAccessible::look(int index) const {
+    if (!is_shown(program.main.imgUnit, index)) return {};
+    const UnitMarker& marker = program.main.imgUnit(index);
+    return {true, marker.border_style == 1, marker.left, marker.top};
+}
+
+void MapAccessible::tell_change(int index, const Look& before, const Look& now) const {
+    const auto tell_of = [&](QAccessible::Event kind) {
+        QAccessibleEvent event(marker(index), kind);
+        tell(&event);
+    };
+    if (before.left != now.left || before.top != now.top) tell_of(QAccessible::LocationChanged);
+    if (before.selected == now.selected) return;
+    tell_of(now.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(marker(index), changed);
+    tell(&event);
+}
+
+/// One event tells of all that came and went: a campaign that is opened brings thousands at once.
+void MapAccessible::tell_changes() {
+    const auto count = static_cast<std::size_t>(program.main.imgUnit.upper()) + 1;
+    bool others = told.size() > count;
+    told.resize(count);
+    for (std::size_t i = 1; i < count; ++i) {
+        const int index = static_cast<int>(i);
+        const Look now = look(index);
+        const Look before = std::exchange(told[i], now);
+        if (now.shown != before.shown)
+            others = true;
+        else if (now.shown)
+            tell_change(index, before, now);
+    }
+    if (!others) return;
+    QAccessibleEvent event(&view, QAccessible::ObjectReorder);
+    tell(&event);
 }

@@ -4,6 +4,7 @@
 #include "mapview/find_coordinate.h"
 #include "mapview/keys.h"
 #include "mapview/layout.h"
+#include "mapview/map_accessible_window.h"
 #include "mapview/map_frame_window.h"
 #include "mapview/map_mouse.h"
 #include "mapview/overview.h"
@@ -17,6 +18,7 @@
 #include "program/toolbar.h"
 #include "program/unit_info_buttons.h"
 #include "widgets/colours_qt.h"
+#include "widgets/status_panel.h"
 #include "widgets/text.h"
 
 #include <QAction>
@@ -25,7 +27,6 @@
 #include <QContextMenuEvent>
 #include <QCursor>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QResizeEvent>
@@ -205,13 +206,10 @@ void frmMain_window::repaint_map_area() {
 void frmMain_window::make_status_bar() {
     statusBar()->setObjectName("sbarMap");
     for (std::size_t i = 0; i < program.main.sbarMap.panels.size(); ++i) {
-        auto* const panel = new QLabel;
+        auto* const panel = new StatusPanel;
         panel->setObjectName("panel" + QString::number(i + 1));
-        panel->setMargin(2);
-        panel->setTextFormat(Qt::PlainText);
-        panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         statusBar()->addWidget(panel, 1);
-        steps.emplace_back([this, panel, i] { panel->setText(to_qt(program.main.sbarMap.panels[i])); });
+        steps.emplace_back([this, panel, i] { panel->show_text(to_qt(program.main.sbarMap.panels[i])); });
     }
 }
 
@@ -219,6 +217,7 @@ void frmMain_window::bring_in_step(bool map_changed) {
     for (const auto& step : steps) step();
     const QPointF stands_at(program.main.picMap.left, program.main.picMap.top);
     if (map_changed || stands_at != shown_at) repaint_map_area();
+    if (map_changed) tell_marker_changes(*map_view);
     shown_at = stands_at;
 }
 

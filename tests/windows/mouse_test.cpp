@@ -1,6 +1,7 @@
 #include "tests/windows/desktop.h"
 
 #include "core/identity.h"
+#include "mapview/map_accessible_window.h"
 #include "mapview/unit_info.h"
 #include "mapview/unit_marker.h"
 
@@ -8,6 +9,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -18,6 +20,7 @@
 
 #include <array>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -320,6 +323,45 @@ TEST_F(Mouse, MarkersAreChildrenOfTheMapForThoseWhoDoNotSeeIt) {
     campaign().colUnits->remove("{1}");
     EXPECT_FALSE(marker->isValid());
     EXPECT_EQ(marker->text(QAccessible::Name), "");
+}
+
+TEST_F(Mouse, ListenersHearWhichMarkersComeAndAreSelectedAndMoved) {
+    auto* const face = dynamic_cast<MapAccessible*>(QAccessible::queryAccessibleInterface(map));
+    ASSERT_NE(face, nullptr);
+    using Told = std::multiset<QAccessible::Event>;
+    Told told;
+    face->tell = [&](QAccessibleEvent* event) { told.insert(event->type()); };
+    const auto heard = [&] {
+        face->tell_changes();
+        return std::exchange(told, {});
+    };
+    EXPECT_EQ(heard(), Told{QAccessible::ObjectReorder}) << "all are new to who begins to listen";
+    EXPECT_EQ(heard(), Told{});
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    EXPECT_EQ(heard(), (Told{QAccessible::SelectionAdd, QAccessible::StateChanged}));
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*second));
+    EXPECT_EQ(heard(), (Told{QAccessible::SelectionAdd, QAccessible::StateChanged,
+                             QAccessible::SelectionRemove, QAccessible::StateChanged}));
+    main().imgUnit(1).left += 10;
+    EXPECT_EQ(heard(), Told{QAccessible::LocationChanged});
+    add_unit("{3}", 700);
+    EXPECT_EQ(heard(), Told{QAccessible::ObjectReorder});
+    main().imgUnit(1).tag = deleted_tag;
+    EXPECT_EQ(heard(), Told{QAccessible::ObjectReorder});
+    main().imgUnit.unload_from(3);
+    EXPECT_EQ(heard(), Told{QAccessible::ObjectReorder});
+}
+
+TEST_F(Mouse, ListenersHearOfCoordinatesAFewTimesASecond) {
+    const QLabel* const panel = desktop.control<QLabel>("panel1");
+    const QString before = panel->accessibleName();
+    EXPECT_FALSE(before.isEmpty()) << "a label without a name tells of each text";
+    for (int x = 100; x < 160; ++x) {
+        send(QEvent::MouseMove, QPointF(x, 200), Qt::NoButton, Qt::NoButton);
+        EXPECT_EQ(panel->accessibleName(), before) << "each change is told";
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel->accessibleName() != before; }, 3000));
+    EXPECT_EQ(panel->accessibleName(), panel->text());
 }
 
 TEST_F(Mouse, PopupsOpenByTheKeyboardWhereTheFocusIs) {
