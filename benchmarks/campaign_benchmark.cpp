@@ -115,7 +115,8 @@ struct LargeCampaign {
 constexpr int all_units = 30000;
 
 /// Campaigns of so many units each, together 30,000: the same number in many small campaigns and in one large
-/// one, so that a comparison tells of the work and not of the processor's caches.
+/// one, so that a comparison tells of the work and not of the processor's caches. To be asked for before the
+/// clock runs: the first call makes them.
 std::deque<LargeCampaign>& campaigns(std::int64_t units) {
     static std::map<std::int64_t, std::deque<LargeCampaign>> made;
     std::deque<LargeCampaign>& those = made[units];
@@ -170,19 +171,19 @@ void read_all(benchmark::State& state) {
 }
 
 void write_all(benchmark::State& state) {
-    std::deque<LargeCampaign>& those = campaigns(state.range(0)); // made before the clock runs
+    std::deque<LargeCampaign>& those = campaigns(state.range(0));
     for (auto _ : state)
         for (LargeCampaign& one : those) cmdSave_Click(one.program);
 }
 
 void check_all(benchmark::State& state) {
-    std::deque<LargeCampaign>& those = campaigns(state.range(0)); // made before the clock runs
+    std::deque<LargeCampaign>& those = campaigns(state.range(0));
     for (auto _ : state)
         for (LargeCampaign& one : those) check_hierarchy(one.program);
 }
 
 void renumber_all(benchmark::State& state) {
-    std::deque<LargeCampaign>& those = campaigns(state.range(0)); // made before the clock runs
+    std::deque<LargeCampaign>& those = campaigns(state.range(0));
     for (auto _ : state)
         for (LargeCampaign& one : those) assign_new_ids(one.program);
 }

@@ -91,8 +91,8 @@ template <class T> class Collection {
         const Collection& collection;
     };
 
-    /// Another number after every change of which records are listed; no two collections ever have the same
-    /// one.
+    /// Another number after every change of which records are listed; no two lists of the same kind of record
+    /// ever have the same one.
     std::uint64_t version() const { return last_change; }
 
     std::size_t count() const { return records.size() - gaps; }
@@ -123,12 +123,13 @@ template <class T> class Collection {
     /// Like `add`, but a present key is told by the answer: false, and nothing changes.
     bool add_new(Item item, std::string_view key) {
         const std::size_t place = records.size();
+        make_room_for_one(); // before anything changes: memory may run out
+        RecordKey named(key);
         if (indexed() ? !index.add_new(key, place, key_at()) : place_of(key) != none) return false;
         note_change();
         records.push_back(std::move(item));
-        keys.reserve(records.capacity());
         keys.resize(place);
-        keys.emplace_back(key);
+        keys.push_back(std::move(named));
         if (!indexed() && records.size() > largest_without_index) build_index();
         return true;
     }
@@ -220,6 +221,12 @@ template <class T> class Collection {
     void note_change() {
         last_change = ++changes_of_all;
         if constexpr (is_corner<T>) CornerChanges::add_one();
+    }
+
+    void make_room_for_one() {
+        if (records.size() == records.capacity())
+            records.reserve(std::max<std::size_t>(1, 2 * records.size()));
+        keys.reserve(records.capacity());
     }
 
     auto key_at() const {

@@ -16,9 +16,9 @@ template <class Kind> class Changes {
 };
 
 /// Any corner of a figure, or any list of them.
-using CornerChanges = Changes<struct Corners>;
+using CornerChanges = Changes<struct CornerKind>;
 /// The place of any unit on the map.
-using UnitMoves = Changes<struct UnitPlaces>;
+using UnitMoves = Changes<struct UnitPlaceKind>;
 
 /// Whether records of this kind are corners, so that each change of a list of them counts.
 template <class T> inline constexpr bool is_corner = false;

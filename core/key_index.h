@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-/// Finds the place of a key in a list of keys that is kept elsewhere. Nearly all that a look-up reads are
-/// marks of a byte each: those of thousands of keys stay in the processor's cache, and no key is stored
-/// twice.
+/// Finds the place of a key in a list of keys that is kept elsewhere. Marks of a byte each tell nearly always
+/// whether a slot is the one looked for: those of thousands of keys stay in the processor's cache, and no key
+/// is stored twice.
 class KeyIndex {
   public:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
@@ -21,8 +21,9 @@ class KeyIndex {
     /// Forgets all keys and makes room for so many.
     void start(std::size_t keys) {
         const std::size_t slots = std::bit_ceil(std::max(2 * keys, smallest));
-        marks.assign(slots, unused);
-        places.resize(slots);
+        std::vector<std::uint8_t> fresh_marks(slots, unused);
+        places = std::vector<std::uint32_t>(slots);
+        marks = std::move(fresh_marks);
         used = 0;
     }
 
@@ -70,11 +71,11 @@ class KeyIndex {
     std::size_t next(std::size_t at) const { return slot_of(at + 1); }
 
     template <class KeyAt> void enlarge(KeyAt key_at) {
-        const std::vector<std::uint8_t> marks_before = std::move(marks);
-        const std::vector<std::uint32_t> places_before = std::move(places);
-        start(marks_before.size());
-        for (std::size_t at = 0; at < marks_before.size(); ++at)
-            if (marks_before[at] > removed) add_new(key_at(places_before[at]), places_before[at], key_at);
+        KeyIndex larger;
+        larger.start(marks.size());
+        for (std::size_t at = 0; at < marks.size(); ++at)
+            if (marks[at] > removed) larger.add_new(key_at(places[at]), places[at], key_at);
+        *this = std::move(larger);
     }
 
     std::vector<std::uint8_t> marks;

@@ -50,7 +50,8 @@ struct OverviewLines {
 };
 
 /// The routes and the areas of operation of all units, side by side: a paint goes over thousands of those
-/// that are out of view. Good until a unit, or what they were gathered from, changes.
+/// that are out of view. Good, and its pointers with it, until the list of units, the place of one, a
+/// waypoint or a corner changes: `unit_plans` sees to that.
 struct UnitPlans {
     struct Plan {
         const oUnits* unit;

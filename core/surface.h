@@ -65,7 +65,8 @@ struct Bounds {
     }
 };
 
-/// A box in half the room, for one that is kept with each of many records. Map pixels are exact in it.
+/// A box in half the room, for one that is kept with each of many records. Its edges are exact to a
+/// fraction of a pixel wherever a map can be.
 struct SmallBounds {
     float left = 0;
     float top = 0;

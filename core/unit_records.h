@@ -65,9 +65,8 @@ struct oWaypoint {
 
 template <> inline constexpr bool is_corner<const oWaypoint> = true;
 
-/// One unit of either side. The fields stand in the order in which they are asked for: first what painting
-/// wants of every unit at each refresh, in one line of the processor's cache; in the next line what the unit
-/// owns, then its links.
+/// One unit of either side. The fields stand in the order in which walks over all units ask for them: place
+/// and plans in one line of the processor's cache, what the unit owns in the next, then its links.
 struct alignas(64) oUnits {
     std::int32_t color = 0;
     CountedCoordinate<std::int16_t, UnitMoves> xcoord; // the centre

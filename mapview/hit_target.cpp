@@ -3,7 +3,8 @@
 namespace {
 
 bool holds(const MapControl& control, double x, double y, Container container) {
-    const bool within_width = (x >= control.left) & (x < control.left + control.width); // no guess, no branch
+    // & and not &&: of thousands of markers the processor can't guess which test fails first.
+    const bool within_width = (x >= control.left) & (x < control.left + control.width);
     const bool within_height = (y >= control.top) & (y < control.top + control.height);
     return (within_width & within_height) && control.visible && control.container == container;
 }

@@ -132,40 +132,39 @@ int MapAccessible::indexOfChild(const QAccessibleInterface* child) const {
 }
 
 MapAccessible::Look MapAccessible::look(int index) const {
-    if (!is_shown(program.main.imgUnit, index)) return {};
-    const UnitMarker& marker = program.main.imgUnit(index);
-    return {true, marker.border_style == 1, marker.left, marker.top};
+    if (!is_shown(program.main.imgUnit, index)) return Look::hidden;
+    return program.main.imgUnit(index).border_style == 1 ? Look::selected : Look::shown;
 }
 
-void MapAccessible::tell_change(int index, const Look& before, const Look& now) const {
-    const auto tell_of = [&](QAccessible::Event kind) {
+void MapAccessible::send_change(int index, Look before, Look now) const {
+    const auto send_event = [&](QAccessible::Event kind) {
         QAccessibleEvent event(marker(index), kind);
-        tell(&event);
+        send(&event);
     };
-    if (before.left != now.left || before.top != now.top) tell_of(QAccessible::LocationChanged);
-    if (before.selected == now.selected) return;
-    tell_of(now.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
-    QAccessible::State changed;
-    changed.selected = true;
-    QAccessibleStateChangeEvent event(marker(index), changed);
-    tell(&event);
+    if (now == Look::hidden) {
+        send_event(QAccessible::ObjectDestroyed);
+    } else if (before == Look::hidden) {
+        send_event(QAccessible::ObjectCreated);
+    } else {
+        send_event(now == Look::selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+        QAccessible::State changed;
+        changed.selected = true;
+        QAccessibleStateChangeEvent event(marker(index), changed);
+        send(&event);
+    }
 }
 
-/// One event tells of all that came and went: a campaign that is opened brings thousands at once.
 void MapAccessible::tell_changes() {
-    const auto count = static_cast<std::size_t>(program.main.imgUnit.upper()) + 1;
-    bool others = told.size() > count;
-    told.resize(count);
-    for (std::size_t i = 1; i < count; ++i) {
-        const int index = static_cast<int>(i);
-        const Look now = look(index);
-        const Look before = std::exchange(told[i], now);
-        if (now.shown != before.shown)
-            others = true;
-        else if (now.shown)
-            tell_change(index, before, now);
-    }
-    if (!others) return;
-    QAccessibleEvent event(&view, QAccessible::ObjectReorder);
-    tell(&event);
+    constexpr std::size_t many = 20;
+    const bool first_time = last_looks.empty();
+    std::vector<Look> looks(static_cast<std::size_t>(program.main.imgUnit.upper()) + 1, Look::hidden);
+    for (std::size_t i = 1; i < looks.size(); ++i) looks[i] = look(static_cast<int>(i));
+    last_looks.resize(std::max(looks.size(), last_looks.size()), Look::hidden);
+    looks.resize(last_looks.size(), Look::hidden);
+    std::vector<std::size_t> changed;
+    for (std::size_t i = 1; i < looks.size(); ++i)
+        if (looks[i] != last_looks[i]) changed.push_back(i);
+    last_looks.swap(looks);
+    if (first_time || changed.size() > many) return;
+    for (const std::size_t i : changed) send_change(static_cast<int>(i), looks[i], last_looks[i]);
 }

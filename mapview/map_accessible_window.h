@@ -4,6 +4,7 @@
 
 #include <QAccessibleWidget>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <vector>
@@ -29,22 +30,18 @@ class MapAccessible : public QAccessibleWidget {
     QAccessibleInterface* childAt(int x, int y) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
 
-    /// Tells which markers came, went, moved, or were selected since it was last called.
+    /// Tells which markers came, went, or were selected since it was last called. Of many at once, as a
+    /// campaign that is opened brings, nothing is told: who is on the map asks for them.
     void tell_changes();
 
-    std::function<void(QAccessibleEvent*)> tell{QAccessible::updateAccessibility};
+    /// The way to those who listen.
+    std::function<void(QAccessibleEvent*)> send{QAccessible::updateAccessibility};
 
   private:
-    /// What is told of a marker.
-    struct Look {
-        bool shown = false;
-        bool selected = false;
-        double left = 0;
-        double top = 0;
-    };
+    enum class Look : std::uint8_t { hidden, shown, selected };
 
     Look look(int index) const;
-    void tell_change(int index, const Look& before, const Look& now) const;
+    void send_change(int index, Look before, Look now) const;
     /// The indices of the markers that are shown on the map.
     std::vector<int> shown() const;
     QAccessibleInterface* marker(int index) const;
@@ -52,5 +49,5 @@ class MapAccessible : public QAccessibleWidget {
     MapView& view;
     const Program& program;
     mutable std::map<int, QAccessible::Id> markers; // by their index, made when they are asked for
-    std::vector<Look> told;                         // by the index of the marker
+    std::vector<Look> last_looks;                   // by the index of the marker
 };

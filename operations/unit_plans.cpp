@@ -3,6 +3,7 @@
 #include "core/unit_place.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -57,7 +58,7 @@ const UnitPlans& unit_plans(Program& program) {
     const UnitPlans::Source now{units.version(), UnitMoves::count(), CornerChanges::count()};
     UnitPlans& kept = program.painting.unit_plans;
     if (kept.source == now) return kept;
-    kept = {now, {}, {}};
-    for (const auto& unit : units) gather(kept, *unit);
-    return kept;
+    UnitPlans gathered{now, {}, {}};
+    for (const auto& unit : units) gather(gathered, *unit);
+    return kept = std::move(gathered);
 }

@@ -15,7 +15,6 @@
 
 class OverviewView;
 class QAction;
-class QLabel;
 class QMenu;
 class QScrollBar;
 class QToolBar;

@@ -2,7 +2,6 @@
 
 namespace {
 
-// The accessible name is set by us alone: a label without one tells of every text it is given.
 const char* const name_of_empty_panel = "Status";
 
 } // namespace
@@ -12,16 +11,16 @@ StatusPanel::StatusPanel() {
     setMargin(2);
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    setAccessibleName(name_of_empty_panel);
-    told.setSingleShot(true);
-    told.setInterval(milliseconds_between);
-    connect(&told, &QTimer::timeout, this, &StatusPanel::tell);
+    setAccessibleName(name_of_empty_panel); // a label without a name tells of every text it is given
+    wait.setSingleShot(true);
+    wait.setInterval(milliseconds_between);
+    connect(&wait, &QTimer::timeout, this, &StatusPanel::tell);
 }
 
 void StatusPanel::show_text(const QString& text) {
     if (text == this->text()) return;
     setText(text);
-    if (!told.isActive()) told.start();
+    if (!wait.isActive()) wait.start();
 }
 
 void StatusPanel::tell() { setAccessibleName(text().isEmpty() ? name_of_empty_panel : text()); }

@@ -14,5 +14,5 @@ class StatusPanel : public QLabel {
   private:
     void tell();
 
-    QTimer told; // runs while the next telling must wait
+    QTimer wait; // until the next telling
 };

@@ -69,6 +69,18 @@ TEST(Collection, LongKeysDifferInTheirLastLetterToo) {
     EXPECT_FALSE(collection.add_new(record("x"), beginning + "19"));
 }
 
+TEST(Collection, KeysOfEveryLengthStayWhatTheyAreWhenGapsClose) {
+    Collection<Record> collection;
+    const auto key = [](int length) { return std::string(static_cast<std::size_t>(length), 'k'); };
+    for (int length = 0; length < 60; ++length) collection.add(record(std::to_string(length)), key(length));
+    for (int length = 0; length < 60; length += 7) collection.remove(key(length));
+    EXPECT_EQ(collection.at(1)->name, "1");
+    for (int length = 0; length < 60; ++length) {
+        const auto found = collection.find(key(length));
+        EXPECT_EQ(found ? found->name : "", length % 7 == 0 ? "" : std::to_string(length));
+    }
+}
+
 TEST(Collection, PositionOfAKeyFollowsRemovals) {
     Collection<Record> collection;
     for (const char* name : {"a", "b", "c"}) collection.add(record(name), name);

@@ -56,6 +56,26 @@ TEST_F(Waypoints, RouteThenDotsEachWithItsThreeTexts) {
     EXPECT_EQ(painting.map.pen.FillStyle, 1);
 }
 
+TEST_F(Waypoints, OutOfViewLeaveTheirPenAllTheSame) {
+    painting.map.wanted = {5000, 5000, 6000, 6000};
+    painting.map.pen.FillColor = 99;
+    painting.map.pen.FillStyle = 0;
+    painting.map.pen.ForeColor = 99;
+    painting.map.pen.DrawWidth = 5;
+    draw_waypoints(program, painting);
+    EXPECT_EQ(told(painting.map), Told{});
+    EXPECT_EQ(told(painting.map.pen), "fore 0 fill 0 style 1 dash 0 width 1 mode 13");
+    EXPECT_TRUE(painting.map.pen.FontBold);
+}
+
+TEST_F(Waypoints, FarFromAUnitInViewItsRouteIsSeenToSetOut) {
+    unit->waypoints.drop();
+    add_waypoint(9000, 8000);
+    painting.map.wanted = {0, 0, 500, 500};
+    draw_waypoints(program, painting);
+    EXPECT_EQ(told(painting.map), Told{"line 100,100 9000,8000"});
+}
+
 TEST_F(Waypoints, WithoutDataOnlyRouteAndDots) {
     program.campaign.gDispWayptData = false;
     draw_waypoints(program, painting);
