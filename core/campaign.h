@@ -21,9 +21,9 @@ struct CampaignCollections {
     CollectionRef<oPolygons> colPolygons;
     CollectionRef<oFireMission> colFireMissions;
     CollectionRef<oTowns> colTowns;
-    CollectionRef<oForceElements> colForceElements; // by the number with a leading blank: " 12"
-    CollectionRef<oUnitTypes> colUnitTypes;         // by side and type: "AlliedRifle Company"
-    CollectionRef<oGameMasters> colGameMasters;     // the rosters by name
+    CollectionRef<const oForceElements> colForceElements; // by the number with a leading blank: " 12"
+    CollectionRef<oUnitTypes> colUnitTypes;               // by side and type: "AlliedRifle Company"
+    CollectionRef<oGameMasters> colGameMasters;           // the rosters by name
     CollectionRef<oGermanPlayers> colGermanPlayers;
     CollectionRef<oRussianPlayers> colRussianPlayers;
     CollectionRef<oCoordinates> colPathPoints; // no keys

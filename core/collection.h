@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/corners.h"
+#include "core/changes.h"
 #include "core/failure.h"
 #include "core/key_index.h"
 
@@ -220,7 +220,7 @@ template <class T> class Collection {
 
     void note_change() {
         last_change = ++changes_of_all;
-        if constexpr (is_corner<T>) CornerChanges::add_one();
+        ListChanges<T>::add_one();
     }
 
     void make_room_for_one() {
@@ -305,7 +305,7 @@ template <class T> class CollectionRef {
 
   private:
     void hold(std::shared_ptr<Collection<T>> other) {
-        if constexpr (is_corner<T>) CornerChanges::add_one();
+        ListChanges<T>::add_one();
         held = std::move(other);
     }
 

@@ -70,6 +70,28 @@ struct UnitPlans {
     std::vector<Plan> areas;
 };
 
+/// The artillery pieces of all units, in the order of the units: each paint draws their fans on the overview.
+/// Good, and its pointers with it, until the list of units, what one of them holds or the catalogue changes:
+/// `artillery` sees to that.
+struct Artillery {
+    struct Piece {
+        const oUnits* unit;
+        const oUnitForceElements* element;
+        const oForceElements* entry; // of the catalogue
+    };
+    struct Source {
+        std::uint64_t units = 0; // the version of the list
+        std::uint64_t holding_changes = 0;
+        std::uint64_t catalogue = 0; // its version
+
+        bool operator==(const Source&) const = default;
+    };
+
+    Source source;
+    std::vector<Piece> pieces;
+    int failure = 0; // of the last unit with an element that the catalogue lacks, 0 when there is none
+};
+
 /// What the layers draw on. The overview's and the rulers' pens are their own.
 struct Painting {
     DrawingList map;
@@ -78,6 +100,7 @@ struct Painting {
     DrawingList overview;
     OverviewLines overview_lines;
     UnitPlans unit_plans;
+    Artillery artillery;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
     long number = 0;         // counts the paints

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/changes.h"
 #include "core/collection.h"
-#include "core/corners.h"
 #include "core/surface.h"
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 // down, 150 to the kilometre; colours are 0x00BBGGRR. Texts are single bytes, Windows-1252.
 
 /// A coordinate of a corner that can be moved.
-using Coordinate = CountedCoordinate<std::int32_t, CornerChanges>;
+using Coordinate = Counted<std::int32_t, CornerChanges>;
 
 /// A vertex. In lines and polygons map pixels; in areas of operation offsets from the unit.
 struct oCoordinates {
@@ -19,7 +19,7 @@ struct oCoordinates {
     Coordinate y_cor;
 };
 
-template <> inline constexpr bool is_corner<oCoordinates> = true;
+template <> struct ListChanges<oCoordinates> : CornerChanges {};
 
 /// A reference to a subordinate unit. The name is a copy and may be stale.
 struct oChildren {
@@ -30,7 +30,7 @@ struct oChildren {
 /// A holding of one kind of force element by a unit.
 struct oUnitForceElements {
     std::string ID;
-    std::int16_t Index = 0; // catalogue number, 999 for a free-text element
+    Counted<std::int16_t, HoldingChanges> Index; // catalogue number, 999 for a free-text element
     std::int16_t quantity = 0;
     std::string experience;
     std::int16_t ammo = 0;
@@ -39,6 +39,8 @@ struct oUnitForceElements {
     std::int16_t MIA = 0;
     std::string free_text;
 };
+
+template <> struct ListChanges<oUnitForceElements> : HoldingChanges {};
 
 /// Holdings of a unit and its subordinates added up; never stored.
 struct oAccuUFE : oUnitForceElements {};
@@ -63,14 +65,14 @@ struct oWaypoint {
     std::string notes;
 };
 
-template <> inline constexpr bool is_corner<const oWaypoint> = true;
+template <> struct ListChanges<const oWaypoint> : CornerChanges {};
 
 /// One unit of either side. The fields stand in the order in which walks over all units ask for them: place
 /// and plans in one line of the processor's cache, what the unit owns in the next, then its links.
 struct alignas(64) oUnits {
     std::int32_t color = 0;
-    CountedCoordinate<std::int16_t, UnitMoves> xcoord; // the centre
-    CountedCoordinate<std::int16_t, UnitMoves> ycoord;
+    Counted<std::int16_t, UnitMoves> xcoord; // the centre
+    Counted<std::int16_t, UnitMoves> ycoord;
     std::int16_t img_index = 0;            // index of the marker; a value of this run, in no file
     std::int16_t state = 0;                // 0 none, 1 good, 2 moderate, 3 bad, 4 critical
     FromCorners<SmallBounds> route_bounds; // of its waypoints and their texts

@@ -36,14 +36,16 @@ class Accumulated {
             known->KIA = sum16(known->KIA, element.KIA);
             return;
         }
-        auto made = std::make_shared<oAccuUFE>();
-        made->Index = element.Index;
-        made->experience = element.experience;
-        made->quantity = element.quantity;
-        made->ammo = element.ammo;
-        made->MIA = element.MIA;
-        made->KIA = element.KIA; // and no free text: such elements add up by experience alone
-        entries.add(made, key);
+        // No free text: elements of that kind add up by experience alone.
+        const oAccuUFE first{{.ID = {},
+                              .Index = element.Index,
+                              .quantity = element.quantity,
+                              .experience = element.experience,
+                              .ammo = element.ammo,
+                              .KIA = element.KIA,
+                              .MIA = element.MIA,
+                              .free_text = {}}};
+        entries.add(std::make_shared<oAccuUFE>(first), key);
     }
 
     Collection<oAccuUFE> entries;

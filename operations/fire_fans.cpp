@@ -1,11 +1,11 @@
 #include "operations/fire_fans.h"
 
 #include "annotation/draw_lines.h"
-#include "core/catalogue.h"
 #include "core/marker_of.h"
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "core/unit_place.h"
+#include "operations/artillery.h"
 
 #include <cmath>
 
@@ -18,15 +18,17 @@ constexpr std::int32_t red = 255;
 constexpr std::int32_t green = 0xFF00;
 constexpr std::int32_t blue = 0xFF0000;
 
-/// Draws the piece's arc of 60 degrees around its bearing, or the full circle.
-void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element, const oForceElements& piece,
-                  double radius) {
+using Piece = Artillery::Piece;
+
+/// Draws the piece's arc of 60 degrees around its bearing, or the full circle; the scale in pixels per metre.
+void draw_firefan(Surface& surface, Point at, const Piece& piece, double scale) {
+    const double radius = scale * piece.entry->max_range;
     surface.pen.DrawStyle = 0;
-    if (!piece.firefan) {
+    if (!piece.entry->firefan) {
         surface.circle(at, radius);
         return;
     }
-    int middle = 360 - element.FireFanAngle + 90; // counter-clockwise from the east
+    int middle = 360 - piece.element->FireFanAngle + 90; // counter-clockwise from the east
     if (middle >= 360) middle -= 360;
     int start = middle - 30;
     if (start < 0) start += 360;
@@ -35,61 +37,45 @@ void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element,
     surface.pie(at, radius, start * pi / 180, end * pi / 180);
 }
 
-/// Runs `draw(element, piece)` for each artillery piece of the unit.
-template <class Draw> void for_each_piece(const Program& program, const oUnits& unit, Draw draw) {
-    if (unit.force_elements.empty()) return;
-    for (const auto& element : unit.force_elements)
-        if (const oForceElements* const piece = artillery_piece(program, *element)) draw(*element, *piece);
-}
-
 bool is_active(const Program& program, const oUnits& unit) {
     return program.main.picUnitInfo.visible && program.campaign.curUnit.get() == &unit;
 }
 
-bool is_current(const Program& program, const oUnitForceElements& element) {
-    return program.campaign.curUFE.get() == &element;
+bool is_current(const Program& program, const Piece& piece) {
+    return program.campaign.curUFE.get() == piece.element;
 }
 
-void draw_on_overview(const Program& program, Surface& overview, const oUnits& unit,
-                      const oUnitForceElements& element, const oForceElements& piece, std::int32_t colour) {
+void draw_on_overview(const Program& program, Surface& overview, const Piece& piece, std::int32_t colour) {
     const frmMain& main = program.main;
-    if (marker_of(main, unit) == nullptr) return; // nor has it a dot
-    const OverviewDot& dot = main.shpUnit(unit.img_index);
+    if (marker_of(main, *piece.unit) == nullptr) return; // nor has it a dot
+    const OverviewDot& dot = main.shpUnit(piece.unit->img_index);
     const double ratio = main.picOverviewmap.scale_width() / main.picMap.width;
     overview.pen.DrawMode = 9;
     overview.pen.FillStyle = 0;
     overview.pen.FillColor = colour;
-    draw_firefan(overview, {dot.left + 1, dot.top + 2}, element, piece,
-                 ratio * piece.max_range * pixels_per_metre);
+    draw_firefan(overview, {dot.left + 1, dot.top + 2}, piece, ratio * pixels_per_metre);
 }
 
-void draw_unit_on_overview(const Program& program, Surface& overview, const oUnits& unit) {
-    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
-        const std::int32_t side = unit.affiliation == "Allied" ? red : blue;
-        draw_on_overview(program, overview, unit, element, piece,
-                         is_current(program, element) ? green : side);
-    });
-}
-
-void draw_unit_firefans(const Program& program, Painting& painting, const oUnits& unit) {
+void draw_on_map(const Program& program, Painting& painting, const Piece& piece) {
     Surface& map = painting.map;
-    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
-        map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
-        map.pen.FillColor = blue;
-        const bool current = is_current(program, element);
-        if (is_active(program, unit)) map.pen.FillColor = current ? green : red;
-        draw_firefan(map, place_of(unit), element, piece, piece.max_range * pixels_per_metre);
-        // The element in hand is to be seen on the overview whatever that one shows.
-        if (current && is_active(program, unit))
-            draw_on_overview(program, painting.overview, unit, element, piece, green);
-    });
+    const oUnits& unit = *piece.unit;
+    const bool active = is_active(program, unit);
+    const bool current = is_current(program, piece);
+    map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
+    map.pen.FillColor = !active ? blue : current ? green : red;
+    draw_firefan(map, place_of(unit), piece, pixels_per_metre);
+    // The element in hand is to be seen on the overview whatever that one shows.
+    if (current && active) draw_on_overview(program, painting.overview, piece, green);
 }
 
-/// Runs `draw(unit)`. Fans that can't be drawn leave those of other units and the rest of the picture alone;
+/// Runs `draw(piece)` for each. Fans that can't be drawn leave the others and the rest of the picture alone;
 /// the paint tells of them at its end.
-template <class Draw> void draw_fans(Painting& painting, const oUnits& unit, Draw draw) {
-    const int number = failure_of([&] { draw(unit); });
-    if (number != 0) painting.firefan_failure = number;
+template <class Draw> void draw_fans(Painting& painting, const Artillery& artillery, Draw draw) {
+    if (artillery.failure != 0) painting.firefan_failure = artillery.failure;
+    for (const Piece& piece : artillery.pieces) {
+        const int number = failure_of([&] { draw(piece); });
+        if (number != 0) painting.firefan_failure = number;
+    }
 }
 
 } // namespace
@@ -117,9 +103,10 @@ void set_firefan_angle(Program& program, double x, double y) {
 void draw_overview(Program& program, Painting& painting) {
     painting.overview.clear();
     if (program.campaign.gDispOmFirefans)
-        for (const auto& each : program.campaign.colUnits)
-            draw_fans(painting, *each,
-                      [&](const oUnits& unit) { draw_unit_on_overview(program, painting.overview, unit); });
+        draw_fans(painting, artillery(program), [&](const Piece& piece) {
+            const std::int32_t side = piece.unit->affiliation == "Allied" ? red : blue;
+            draw_on_overview(program, painting.overview, piece, is_current(program, piece) ? green : side);
+        });
     if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting);
 }
 
@@ -127,12 +114,12 @@ bool firefans_are_shown(const Program& program) { return program.campaign.gDispF
 
 void draw_firefans(Program& program, Painting& painting) {
     const Campaign& campaign = program.campaign;
-    const auto draw = [&](const oUnits& unit) { draw_unit_firefans(program, painting, unit); };
+    const auto draw = [&](const Piece& piece) { draw_on_map(program, painting, piece); };
     if (program.main.picUnitInfo.visible && campaign.gDispFirefansSelected) {
         painting.map.pen.ForeColor = red;
-        if (campaign.curUnit) draw_fans(painting, *campaign.curUnit, draw);
+        if (campaign.curUnit) draw_fans(painting, artillery_of(program, *campaign.curUnit), draw);
     } else if (campaign.gDispFirefansAll) {
         painting.map.pen.ForeColor = blue;
-        for (const auto& unit : campaign.colUnits) draw_fans(painting, *unit, draw);
+        draw_fans(painting, artillery(program), draw);
     }
 }

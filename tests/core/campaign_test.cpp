@@ -8,7 +8,7 @@
 
 // The widths are those of the files.
 static_assert(std::is_same_v<decltype(oUnits::color), std::int32_t>);
-static_assert(std::is_same_v<decltype(oUnits::xcoord), CountedCoordinate<std::int16_t, UnitMoves>>);
+static_assert(std::is_same_v<decltype(oUnits::xcoord), Counted<std::int16_t, UnitMoves>>);
 static_assert(sizeof(oUnits::xcoord) == 2);
 static_assert(std::is_same_v<decltype(oUnits::img_index), std::int16_t>);
 static_assert(std::is_same_v<decltype(oUnits::state), std::int16_t>);

@@ -349,6 +349,15 @@ TEST_F(UnitInfo, ElementWithoutAProperKeyStillEnablesItsButtons) {
     EXPECT_EQ(campaign.curUFE, nullptr);
 }
 
+TEST_F(UnitInfo, AddingUpElementsIsNoChangeOfWhatUnitsHold) {
+    add_element(*add_below(key('a'), *unit), 2, 4, 'e');
+    main.chkShowAllFE.value = true;
+    const auto changes = HoldingChanges::count();
+    show_unit_info(program, "{1}");
+    EXPECT_EQ(main.lstUIfe.rows.size(), 1U);
+    EXPECT_EQ(HoldingChanges::count(), changes) << "or each press would have all fans looked up anew";
+}
+
 TEST_F(UnitInfo, MarkInANameHidesTheKey) {
     add_below(key('a'), *unit)->name = "1###2";
     press_unit(*unit);

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// Where figures lie is worked out once and kept, so that a paint need not look at what is out of view. Counts
-// tell that something it was worked out from has changed since.
+// What a paint needs of thousands of records is worked out once and kept, so that it need not look at each of
+// them. Counts tell that something it was worked out from has changed since.
 
 /// Counts changes of one kind.
 template <class Kind> class Changes {
@@ -19,24 +19,28 @@ template <class Kind> class Changes {
 using CornerChanges = Changes<struct CornerKind>;
 /// The place of any unit on the map.
 using UnitMoves = Changes<struct UnitPlaceKind>;
+/// The force elements of any unit: which there are, and of which kind.
+using HoldingChanges = Changes<struct HoldingKind>;
 
-/// Whether records of this kind are corners, so that each change of a list of them counts.
-template <class T> inline constexpr bool is_corner = false;
+/// What a change of a list of such records counts as: of most kinds, as none.
+template <class T> struct ListChanges {
+    static void add_one() {}
+};
 
-/// A coordinate whose changes are counted.
-template <class Value, class Count> class CountedCoordinate {
+/// A value whose changes are counted.
+template <class Value, class Count> class Counted {
   public:
-    CountedCoordinate() = default;
-    CountedCoordinate(Value value) : value(value) {}
-    CountedCoordinate(const CountedCoordinate&) = default;
-    ~CountedCoordinate() = default;
+    Counted() = default;
+    Counted(Value value) : value(value) {}
+    Counted(const Counted&) = default;
+    ~Counted() = default;
 
-    CountedCoordinate& operator=(Value changed) {
+    Counted& operator=(Value changed) {
         value = changed;
         Count::add_one();
         return *this;
     }
-    CountedCoordinate& operator=(const CountedCoordinate& other) { return *this = other.value; }
+    Counted& operator=(const Counted& other) { return *this = other.value; }
 
     operator Value() const { return value; }
 
