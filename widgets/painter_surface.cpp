@@ -67,10 +67,13 @@ QBrush PainterSurface::fill() {
     return made;
 }
 
-const QFont& PainterSurface::font() {
-    const auto [place, is_new] = fonts.try_emplace({pen.FontSize, pen.FontBold});
-    if (is_new)
-        place->second = to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold});
+const PainterSurface::Lettering& PainterSurface::lettering() {
+    const auto [place, is_new] = letterings.try_emplace({pen.FontSize, pen.FontBold});
+    if (is_new) {
+        const QFont font = to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold});
+        const QFontMetrics metrics(font, painter.device());
+        place->second = {font, metrics.ascent(), metrics.height()};
+    }
     return place->second;
 }
 
@@ -160,14 +163,15 @@ void PainterSurface::polygon(const std::vector<Point>& points) {
 }
 
 void PainterSurface::print(Point at, const std::string& text) {
+    if (text.empty()) return;
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setPen(to_qt_colour(pen.ForeColor));
-    painter.setFont(font());
-    const QFontMetrics metrics = painter.fontMetrics();
-    double baseline = at.y + metrics.ascent();
+    const Lettering& letters = lettering();
+    painter.setFont(letters.font);
+    double baseline = at.y + letters.ascent;
     for (const QString& line : to_qt(text).split('\n')) {
         painter.drawText(QPointF(at.x, baseline), line);
-        baseline += metrics.height();
+        baseline += letters.line_height;
     }
 }
 

@@ -30,10 +30,17 @@ class PainterSurface : public Surface {
     void ellipse(Point top_left, double width, double height);
 
   private:
+    /// A font and, in pixels, how its lines lie.
+    struct Lettering {
+        QFont font;
+        int ascent;
+        int line_height;
+    };
+
     void apply_mode();
     const QPen& outline();
     QBrush fill();
-    const QFont& font();
+    const Lettering& lettering();
     /// Fills first, then draws the outline over it; `outline_path` gives its path when it is dashed.
     template <class Draw, class Outline> void fill_and_outline(Draw draw, Outline outline_path);
     /// The library's own dashes begin anew at each edge of what is painted on.
@@ -45,5 +52,5 @@ class PainterSurface : public Surface {
     std::optional<Pen> outlined;
     QPen outline_pen;
     std::map<std::tuple<int, std::int32_t, bool>, QBrush> hatches; // by style, colour, mask
-    std::map<std::pair<int, bool>, QFont> fonts;                   // by size, boldness
+    std::map<std::pair<int, bool>, Lettering> letterings;          // by size, boldness
 };
