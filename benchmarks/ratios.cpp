@@ -8,15 +8,18 @@
 
 namespace {
 
-/// Prints as usual and keeps the median of each benchmark.
+/// Prints as usual and keeps the median of each benchmark, and whether one went wrong.
 class MedianReporter : public benchmark::ConsoleReporter {
   public:
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs)
+        for (const Run& run : runs) {
             if (run.aggregate_name == "median") medians[run.run_name.str()] = run.GetAdjustedRealTime();
+            went_wrong = went_wrong || run.error_occurred;
+        }
     }
 
+    bool went_wrong = false;
     std::map<std::string, double> medians;
 };
 
@@ -33,7 +36,7 @@ int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios) {
     benchmark::Initialize(&count, arguments.data());
     MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    bool all_within = true;
+    bool all_within = !reporter.went_wrong;
     std::printf("\n%-46s %8s %8s\n", "ratio", "is", "at most");
     for (const Ratio& ratio : ratios) {
         const auto median_of = [&](const std::string& name) {

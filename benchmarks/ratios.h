@@ -12,5 +12,5 @@ struct Ratio {
 };
 
 /// Runs the registered benchmarks, each several times in turn with the others, and prints the ratios of their
-/// medians. Answers 0 when all are within their limits.
+/// medians. Answers 0 when all are within their limits and none went wrong.
 int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios);

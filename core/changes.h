@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 // What a paint needs of thousands of records is worked out once and kept, so that it need not look at each of
@@ -48,20 +50,38 @@ template <class Value, class Count> class Counted {
     Value value = 0;
 };
 
-/// What was worked out from corners, good until one of them changes.
-template <class Value> class FromCorners {
+/// What was worked out from many records, good as long as the counts that tell of their changes stand.
+template <class Value, std::size_t counts> class Kept {
   public:
-    template <class WorkOut> const Value& get(WorkOut work_out) const {
-        if (as_of != CornerChanges::count()) {
+    using Counts = std::array<std::uint64_t, counts>;
+
+    /// The value as of these counts. A failure to work it out leaves it to the next use.
+    template <class WorkOut> const Value& get(const Counts& now, WorkOut work_out) {
+        if (as_of != now) {
             value = work_out();
-            as_of = CornerChanges::count();
+            as_of = now;
         }
         return value;
     }
 
   private:
-    static constexpr std::uint64_t never = ~std::uint64_t{0};
+    static constexpr Counts never() {
+        Counts none{};
+        none.fill(~std::uint64_t{0});
+        return none;
+    }
 
-    mutable Value value{};
-    mutable std::uint64_t as_of = never;
+    Value value{};
+    Counts as_of = never();
+};
+
+/// What was worked out from corners, good until one of them changes.
+template <class Value> class FromCorners {
+  public:
+    template <class WorkOut> const Value& get(WorkOut work_out) const {
+        return kept.get({CornerChanges::count()}, work_out);
+    }
+
+  private:
+    mutable Kept<Value, 1> kept;
 };

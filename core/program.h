@@ -50,46 +50,27 @@ struct OverviewLines {
 };
 
 /// The routes and the areas of operation of all units, side by side: a paint goes over thousands of those
-/// that are out of view. Good, and its pointers with it, until the list of units, the place of one, a
-/// waypoint or a corner changes: `unit_plans` sees to that.
+/// that are out of view.
 struct UnitPlans {
     struct Plan {
         const oUnits* unit;
         SmallBounds bounds; // on the map, with all that is drawn of it
     };
-    struct Source {
-        std::uint64_t units = 0; // the version of the list
-        std::uint64_t unit_moves = 0;
-        std::uint64_t corner_changes = 0;
 
-        bool operator==(const Source&) const = default;
-    };
-
-    Source source;
     std::vector<Plan> routes;
     std::vector<Plan> areas;
 };
 
-/// The artillery pieces of all units, in the order of the units: each paint draws their fans on the overview.
-/// Good, and its pointers with it, until the list of units, what one of them holds or the catalogue changes:
-/// `artillery` sees to that.
-struct Artillery {
+/// Artillery pieces of units, in the order of the units and of their elements.
+struct ArtilleryPieces {
     struct Piece {
         const oUnits* unit;
         const oUnitForceElements* element;
         const oForceElements* entry; // of the catalogue
     };
-    struct Source {
-        std::uint64_t units = 0; // the version of the list
-        std::uint64_t holding_changes = 0;
-        std::uint64_t catalogue = 0; // its version
 
-        bool operator==(const Source&) const = default;
-    };
-
-    Source source;
     std::vector<Piece> pieces;
-    int failure = 0; // of the last unit with an element that the catalogue lacks, 0 when there is none
+    int failure = 0; // of a unit with an element that the catalogue lacks, 0 when there is none
 };
 
 /// What the layers draw on. The overview's and the rulers' pens are their own.
@@ -99,8 +80,8 @@ struct Painting {
     DrawingList vcoord;
     DrawingList overview;
     OverviewLines overview_lines;
-    UnitPlans unit_plans;
-    Artillery artillery;
+    Kept<UnitPlans, 3> unit_plans;
+    Kept<ArtilleryPieces, 3> artillery_pieces;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
     long number = 0;         // counts the paints

@@ -7,7 +7,7 @@
 
 // Catalogue, rosters and gazetteer.
 
-/// A row of the catalogue of force elements.
+/// A row of the catalogue of force elements. In its list it does not change.
 struct oForceElements {
     std::int16_t ID = 0;          // the row's 1-based place in the file
     std::int16_t affiliation = 0; // 0 Allied, 1 Axis

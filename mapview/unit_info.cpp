@@ -36,7 +36,8 @@ class Accumulated {
             known->KIA = sum16(known->KIA, element.KIA);
             return;
         }
-        // No free text: elements of that kind add up by experience alone.
+        // Made in one go: to assign `Index` would count as a change of what units hold. Free texts are not
+        // kept, elements with one add up by experience alone.
         const oAccuUFE first{{.ID = {},
                               .Index = element.Index,
                               .quantity = element.quantity,

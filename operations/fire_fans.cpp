@@ -5,7 +5,7 @@
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "core/unit_place.h"
-#include "operations/artillery.h"
+#include "operations/artillery_pieces.h"
 
 #include <cmath>
 
@@ -18,11 +18,10 @@ constexpr std::int32_t red = 255;
 constexpr std::int32_t green = 0xFF00;
 constexpr std::int32_t blue = 0xFF0000;
 
-using Piece = Artillery::Piece;
+using Piece = ArtilleryPieces::Piece;
 
-/// Draws the piece's arc of 60 degrees around its bearing, or the full circle; the scale in pixels per metre.
-void draw_firefan(Surface& surface, Point at, const Piece& piece, double scale) {
-    const double radius = scale * piece.entry->max_range;
+/// Draws the piece's arc of 60 degrees around its bearing, or the full circle.
+void draw_firefan(Surface& surface, Point at, const Piece& piece, double radius) {
     surface.pen.DrawStyle = 0;
     if (!piece.entry->firefan) {
         surface.circle(at, radius);
@@ -53,7 +52,8 @@ void draw_on_overview(const Program& program, Surface& overview, const Piece& pi
     overview.pen.DrawMode = 9;
     overview.pen.FillStyle = 0;
     overview.pen.FillColor = colour;
-    draw_firefan(overview, {dot.left + 1, dot.top + 2}, piece, ratio * pixels_per_metre);
+    draw_firefan(overview, {dot.left + 1, dot.top + 2}, piece,
+                 ratio * piece.entry->max_range * pixels_per_metre);
 }
 
 void draw_on_map(const Program& program, Painting& painting, const Piece& piece) {
@@ -63,19 +63,22 @@ void draw_on_map(const Program& program, Painting& painting, const Piece& piece)
     const bool current = is_current(program, piece);
     map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
     map.pen.FillColor = !active ? blue : current ? green : red;
-    draw_firefan(map, place_of(unit), piece, pixels_per_metre);
+    draw_firefan(map, place_of(unit), piece, piece.entry->max_range * pixels_per_metre);
     // The element in hand is to be seen on the overview whatever that one shows.
     if (current && active) draw_on_overview(program, painting.overview, piece, green);
 }
 
-/// Runs `draw(piece)` for each. Fans that can't be drawn leave the others and the rest of the picture alone;
-/// the paint tells of them at its end.
-template <class Draw> void draw_fans(Painting& painting, const Artillery& artillery, Draw draw) {
-    if (artillery.failure != 0) painting.firefan_failure = artillery.failure;
-    for (const Piece& piece : artillery.pieces) {
-        const int number = failure_of([&] { draw(piece); });
+/// Runs `draw(piece)` for each piece that `find` gives. Fans that can't be drawn leave the others and the
+/// rest of the picture alone; the paint tells of them at its end.
+template <class Find, class Draw> void draw_fans(Painting& painting, Find find, Draw draw) {
+    const auto note = [&](int number) {
         if (number != 0) painting.firefan_failure = number;
-    }
+    };
+    note(failure_of([&] {
+        const ArtilleryPieces& found = find();
+        for (const Piece& piece : found.pieces) note(failure_of([&] { draw(piece); }));
+        note(found.failure);
+    }));
 }
 
 } // namespace
@@ -102,11 +105,12 @@ void set_firefan_angle(Program& program, double x, double y) {
 
 void draw_overview(Program& program, Painting& painting) {
     painting.overview.clear();
-    if (program.campaign.gDispOmFirefans)
-        draw_fans(painting, artillery(program), [&](const Piece& piece) {
-            const std::int32_t side = piece.unit->affiliation == "Allied" ? red : blue;
-            draw_on_overview(program, painting.overview, piece, is_current(program, piece) ? green : side);
-        });
+    const auto find = [&]() -> const ArtilleryPieces& { return all_artillery_pieces(program); };
+    const auto draw = [&](const Piece& piece) {
+        const std::int32_t side = piece.unit->affiliation == "Allied" ? red : blue;
+        draw_on_overview(program, painting.overview, piece, is_current(program, piece) ? green : side);
+    };
+    if (program.campaign.gDispOmFirefans) draw_fans(painting, find, draw);
     if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting);
 }
 
@@ -114,12 +118,14 @@ bool firefans_are_shown(const Program& program) { return program.campaign.gDispF
 
 void draw_firefans(Program& program, Painting& painting) {
     const Campaign& campaign = program.campaign;
+    const auto all = [&]() -> const ArtilleryPieces& { return all_artillery_pieces(program); };
+    const auto of_selected = [&] { return artillery_pieces_of(program, *campaign.curUnit); };
     const auto draw = [&](const Piece& piece) { draw_on_map(program, painting, piece); };
     if (program.main.picUnitInfo.visible && campaign.gDispFirefansSelected) {
         painting.map.pen.ForeColor = red;
-        if (campaign.curUnit) draw_fans(painting, artillery_of(program, *campaign.curUnit), draw);
+        if (campaign.curUnit) draw_fans(painting, of_selected, draw);
     } else if (campaign.gDispFirefansAll) {
         painting.map.pen.ForeColor = blue;
-        draw_fans(painting, artillery(program), draw);
+        draw_fans(painting, all, draw);
     }
 }

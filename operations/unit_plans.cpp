@@ -3,7 +3,6 @@
 #include "core/unit_place.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -55,10 +54,10 @@ void gather(UnitPlans& plans, const oUnits& unit) {
 
 const UnitPlans& unit_plans(Program& program) {
     const Collection<oUnits>& units = *program.campaign.colUnits;
-    const UnitPlans::Source now{units.version(), UnitMoves::count(), CornerChanges::count()};
-    UnitPlans& kept = program.painting.unit_plans;
-    if (kept.source == now) return kept;
-    UnitPlans gathered{now, {}, {}};
-    for (const auto& unit : units) gather(gathered, *unit);
-    return kept = std::move(gathered);
+    return program.painting.unit_plans.get({units.version(), UnitMoves::count(), CornerChanges::count()},
+                                           [&] {
+                                               UnitPlans plans;
+                                               for (const auto& unit : units) gather(plans, *unit);
+                                               return plans;
+                                           });
 }

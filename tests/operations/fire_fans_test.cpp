@@ -203,6 +203,21 @@ TEST_F(FireFans, BrokenFanOfOneUnitLeavesThoseOfTheUnitsBehindIt) {
     EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
 }
 
+TEST_F(FireFans, FanThatCantBeDrawnLeavesTheOthersAndIsTold) {
+    add_element(13);
+    program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
+    unit = add_unit("{2}");
+    unit->img_index = 2;
+    add_element(13);
+    unit = add_unit("{3}");
+    unit->img_index = 1;
+    add_element(13);
+    program.main.imgUnit(1).tag = "{3}";
+    picMap_Paint(program);
+    EXPECT_EQ(platform.texts(), Told{"Error 340 when drawing firefans."});
+    EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
+}
+
 TEST_F(FireFans, LinesOnTheOverviewFollowTheirMenuEntry) {
     auto line = std::make_shared<oLines>();
     for (const int x : {0, 240}) line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 0}));

@@ -208,6 +208,31 @@ TEST_F(Pictures, PieIsCutFromTheStartCounterClockwise) {
     EXPECT_EQ(on.at(32, 16), ground);
 }
 
+TEST_F(Pictures, TextStandsBelowItsPointAndFurtherLinesBelowTheFirst) {
+    const auto rows_with_letters = [](const std::string& text) {
+        Ground on;
+        QPainter painter(&on.image);
+        PainterSurface surface(painter);
+        surface.print({8, 10}, text);
+        painter.end();
+        std::vector<int> rows;
+        for (int y = 0; y < 64; ++y)
+            for (int x = 0; x < 64; ++x)
+                if (on.at(x, y) != ground && (rows.empty() || rows.back() != y)) rows.push_back(y);
+        return rows;
+    };
+    const std::vector<int> first = rows_with_letters("H");
+    ASSERT_FALSE(first.empty());
+    EXPECT_GE(first.front(), 10);
+    EXPECT_LT(first.back(), 24) << "within the first line";
+    const std::vector<int> both = rows_with_letters("H\nH");
+    ASSERT_EQ(both.size(), 2 * first.size());
+    EXPECT_EQ(both[first.size() - 1], first.back());
+    EXPECT_GT(both[first.size()], first.back());
+    EXPECT_LT(both[first.size()], first.back() + 12);
+    EXPECT_TRUE(rows_with_letters("").empty());
+}
+
 TEST_F(Pictures, DashesAreForPensOfOnePixel) {
     const auto black_pixels = [](int width) {
         Ground on;

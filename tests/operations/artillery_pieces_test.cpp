@@ -1,4 +1,4 @@
-#include "operations/artillery.h"
+#include "operations/artillery_pieces.h"
 
 #include "tests/support/program_test.h"
 
@@ -11,9 +11,9 @@ static_assert(std::is_same_v<decltype(oUnitForceElements::Index), Counted<std::i
 
 namespace {
 
-class ArtilleryOfAll : public ProgramTest {
+class AllArtilleryPieces : public ProgramTest {
   protected:
-    ArtilleryOfAll() {
+    AllArtilleryPieces() {
         add_entry(1, infantry);
         add_entry(2, guns);
         add_entry(3, guns);
@@ -42,7 +42,7 @@ class ArtilleryOfAll : public ProgramTest {
     /// Each as its unit and its number in the catalogue.
     std::string pieces() {
         std::string all;
-        for (const Artillery::Piece& piece : artillery(program).pieces)
+        for (const ArtilleryPieces::Piece& piece : all_artillery_pieces(program).pieces)
             all += piece.unit->ID + piece.entry->description + " ";
         return all;
     }
@@ -53,18 +53,18 @@ class ArtilleryOfAll : public ProgramTest {
 
 } // namespace
 
-TEST_F(ArtilleryOfAll, StandsInTheOrderOfTheUnitsAndOfTheirElements) {
+TEST_F(AllArtilleryPieces, StandsInTheOrderOfTheUnitsAndOfTheirElements) {
     const auto first = add_unit("a");
     const auto second = add_unit("b");
     add_element(*second, 2);
     add_elements(*first, {3, 1, 2, 999});
     add_unit("c");
     EXPECT_EQ(pieces(), "a3 a2 b2 ");
-    EXPECT_EQ(artillery(program).pieces.at(1).element, first->force_elements->at(3).get());
-    EXPECT_EQ(artillery(program).failure, 0);
+    EXPECT_EQ(all_artillery_pieces(program).pieces.at(1).element, first->force_elements->at(3).get());
+    EXPECT_EQ(all_artillery_pieces(program).failure, 0);
 }
 
-TEST_F(ArtilleryOfAll, FollowsWhatAUnitHolds) {
+TEST_F(AllArtilleryPieces, FollowsWhatAUnitHolds) {
     const auto unit = add_unit("a");
     EXPECT_EQ(pieces(), "");
     const auto element = add_element(*unit, 2);
@@ -84,7 +84,16 @@ TEST_F(ArtilleryOfAll, FollowsWhatAUnitHolds) {
     EXPECT_EQ(pieces(), "a3 b3 ") << "shared";
 }
 
-TEST_F(ArtilleryOfAll, FollowsTheListOfUnits) {
+TEST_F(AllArtilleryPieces, AreLookedUpOnceAsLongAsNothingChanges) {
+    const auto unit = add_unit("a");
+    const auto element = add_element(*unit, 2);
+    const auto* const found = all_artillery_pieces(program).pieces.data();
+    element->FireFanAngle = 90;
+    unit->xcoord = 100;
+    EXPECT_EQ(all_artillery_pieces(program).pieces.data(), found);
+}
+
+TEST_F(AllArtilleryPieces, FollowsTheListOfUnits) {
     add_element(*add_unit("a"), 2);
     EXPECT_EQ(pieces(), "a2 ");
     const auto late = std::make_shared<oUnits>();
@@ -99,24 +108,24 @@ TEST_F(ArtilleryOfAll, FollowsTheListOfUnits) {
     EXPECT_EQ(pieces(), "");
 }
 
-TEST_F(ArtilleryOfAll, FollowsTheCatalogue) {
+TEST_F(AllArtilleryPieces, FollowsTheCatalogue) {
     add_element(*add_unit("a"), 4);
-    EXPECT_EQ(artillery(program).failure, 5);
+    EXPECT_EQ(all_artillery_pieces(program).failure, 5);
     add_entry(4, guns);
     EXPECT_EQ(pieces(), "a4 ");
-    EXPECT_EQ(artillery(program).failure, 0);
+    EXPECT_EQ(all_artillery_pieces(program).failure, 0);
     program.campaign.colForceElements.drop();
     add_entry(4, infantry);
     EXPECT_EQ(pieces(), "");
 }
 
-TEST_F(ArtilleryOfAll, OfAUnitWithAnElementThatTheCatalogueLacksIsWhatStandsBeforeThat) {
+TEST_F(AllArtilleryPieces, OfAUnitWithAnElementThatTheCatalogueLacksIsWhatStandsBeforeThat) {
     const auto lacking = add_unit("a");
     add_elements(*lacking, {2, 77, 3});
     add_element(*add_unit("b"), 3);
     EXPECT_EQ(pieces(), "a2 b3 ");
-    EXPECT_EQ(artillery(program).failure, 5);
-    const Artillery own = artillery_of(program, *lacking);
+    EXPECT_EQ(all_artillery_pieces(program).failure, 5);
+    const ArtilleryPieces own = artillery_pieces_of(program, *lacking);
     ASSERT_EQ(own.pieces.size(), 1U);
     EXPECT_EQ(own.pieces[0].entry->description, "2");
     EXPECT_EQ(own.failure, 5);
