@@ -137,12 +137,12 @@ void add_up_bytes(benchmark::State& state) {
     }
 }
 
-std::unique_ptr<Program> read_into_fresh(benchmark::State& state, LargeCampaign& stored) {
+std::unique_ptr<Program> read_into_fresh(LargeCampaign& stored) {
     auto fresh = std::make_unique<Program>(stored.platform, std::span<const PaintLayer>{});
     fresh->main.picMap.width = 5468;
     cmdLoad_Click(*fresh);
     if (fresh->campaign.colUnits.count() != static_cast<std::size_t>(stored.units))
-        state.SkipWithError("not all units were read");
+        report_wrong("not all units were read");
     return fresh;
 }
 
@@ -151,7 +151,7 @@ std::unique_ptr<Program> read_into_fresh(benchmark::State& state, LargeCampaign&
 void read_first(benchmark::State& state, std::deque<LargeCampaign>& stored, std::size_t few) {
     std::vector<std::unique_ptr<Program>> fresh;
     for (auto _ : state) {
-        for (std::size_t i = 0; i < few; ++i) fresh.push_back(read_into_fresh(state, stored[i]));
+        for (std::size_t i = 0; i < few; ++i) fresh.push_back(read_into_fresh(stored[i]));
         state.PauseTiming();
         fresh.clear();
         state.ResumeTiming();

@@ -178,7 +178,7 @@ void drag_step(benchmark::State& state) {
         send_mouse(s, QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton, Qt::ShiftModifier);
         s.view->render(&s.image);
     }
-    if (!s.program.main.dragging) state.SkipWithError("nothing was dragged");
+    if (!s.program.main.dragging) report_wrong("nothing was dragged");
     send_mouse(s, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
     clear_selection(s.program);
 }
@@ -217,12 +217,12 @@ void press_to_panel(benchmark::State& state) {
     for (auto _ : state) {
         press();
         state.PauseTiming();
-        if (!view.was_painted() || !name.was_painted()) {
-            state.SkipWithError("a press was not painted");
-            break;
-        }
+        const bool painted = view.was_painted() && name.was_painted();
+        const oUnits* const shown = s.program.campaign.curUnit.get();
+        if (!painted || shown != units[(presses - 1) % units.size()]) report_wrong("a press was not painted");
         release();
-        view.was_painted(); // what follows the release is not the press's
+        view.was_painted(); // what the release paints is not the press's
+        name.was_painted();
         state.ResumeTiming();
     }
 }

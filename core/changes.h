@@ -21,7 +21,8 @@ template <class Kind> class Changes {
 using CornerChanges = Changes<struct CornerKind>;
 /// The place of any unit on the map.
 using UnitMoves = Changes<struct UnitPlaceKind>;
-/// The force elements of any unit: which there are, and of which kind.
+/// The force elements of any unit: which there are, and of which kind. All else of them is read when it is
+/// used.
 using HoldingChanges = Changes<struct HoldingKind>;
 
 /// What a change of a list of such records counts as: of most kinds, as none.
@@ -29,7 +30,7 @@ template <class T> struct ListChanges {
     static void add_one() {}
 };
 
-/// A value whose changes are counted.
+/// A value whose changes are counted: each assignment, but neither how it began nor that it was copied.
 template <class Value, class Count> class Counted {
   public:
     Counted() = default;
@@ -53,10 +54,10 @@ template <class Value, class Count> class Counted {
 /// What was worked out from many records, good as long as the counts that tell of their changes stand.
 template <class Value, std::size_t counts> class Kept {
   public:
-    using Counts = std::array<std::uint64_t, counts>;
-
     /// The value as of these counts. A failure to work it out leaves it to the next use.
-    template <class WorkOut> const Value& get(const Counts& now, WorkOut work_out) {
+    template <class WorkOut, class... Count>
+    const Value& get(WorkOut work_out, Count... count) requires(sizeof...(Count) == counts) {
+        const Counts now{count...};
         if (as_of != now) {
             value = work_out();
             as_of = now;
@@ -65,6 +66,8 @@ template <class Value, std::size_t counts> class Kept {
     }
 
   private:
+    using Counts = std::array<std::uint64_t, counts>;
+
     static constexpr Counts never() {
         Counts none{};
         none.fill(~std::uint64_t{0});
@@ -79,7 +82,7 @@ template <class Value, std::size_t counts> class Kept {
 template <class Value> class FromCorners {
   public:
     template <class WorkOut> const Value& get(WorkOut work_out) const {
-        return kept.get({CornerChanges::count()}, work_out);
+        return kept.get(work_out, CornerChanges::count());
     }
 
   private:

@@ -1,6 +1,6 @@
 #include "core/drawing_list.h"
 
-#include <span>
+#include <array>
 
 namespace {
 
@@ -36,52 +36,45 @@ class Figures : public Surface {
 
 } // namespace
 
-void DrawingList::keep(Kind kind, std::size_t count) {
+void DrawingList::keep(Kind kind, std::span<const Point> its_points, std::size_t count,
+                       const std::string& text) {
     if (pens.empty() || !(pens.back() == pen)) pens.push_back(pen);
-    entries.push_back({kind, static_cast<std::uint32_t>(pens.size() - 1),
-                       static_cast<std::uint32_t>(points.size()), static_cast<std::uint32_t>(count),
-                       static_cast<std::uint32_t>(letters.size())});
+    const Entry entry{kind, static_cast<std::uint32_t>(pens.size() - 1),
+                      static_cast<std::uint32_t>(points.size()), static_cast<std::uint32_t>(count),
+                      static_cast<std::uint32_t>(letters.size())};
+    points.insert(points.end(), its_points.begin(), its_points.end());
+    letters += text;
+    entries.push_back(entry); // last: when memory runs out there is none without its points
 }
 
 void DrawingList::line(Point from, Point to) {
     if (!wants(bounds_of(from, to).grown_by(margin(pen)))) return;
-    keep(Kind::line, 2);
-    points.push_back(from);
-    points.push_back(to);
+    keep(Kind::line, std::array{from, to}, 2);
 }
 
 void DrawingList::path(const std::vector<Point>& corners) {
     if (corners.size() < 2 || !wants(around(corners).grown_by(margin(pen)))) return;
-    keep(Kind::line, corners.size());
-    points.insert(points.end(), corners.begin(), corners.end());
+    keep(Kind::line, corners, corners.size());
 }
 
 void DrawingList::circle(Point centre, double radius) {
     if (!wants(bounds_of(centre).grown_by(radius + margin(pen)))) return;
-    keep(Kind::circle, 1);
-    points.push_back(centre);
-    points.push_back({radius, 0});
+    keep(Kind::circle, std::array{centre, Point{radius, 0}}, 1);
 }
 
 void DrawingList::pie(Point centre, double radius, double start, double end) {
     if (!wants(bounds_of(centre).grown_by(radius + margin(pen)))) return;
-    keep(Kind::pie, 1);
-    points.push_back(centre);
-    points.push_back({radius, 0});
-    points.push_back({start, end});
+    keep(Kind::pie, std::array{centre, Point{radius, 0}, Point{start, end}}, 1);
 }
 
 void DrawingList::polygon(const std::vector<Point>& corners) {
     if (corners.empty() || !wants(around(corners).grown_by(margin(pen)))) return;
-    keep(Kind::polygon, corners.size());
-    points.insert(points.end(), corners.begin(), corners.end());
+    keep(Kind::polygon, corners, corners.size());
 }
 
 void DrawingList::print(Point at, const std::string& text) {
     if (!wants(text_bounds(at, text, pen.FontSize))) return;
-    keep(Kind::print, text.size());
-    points.push_back(at);
-    letters += text;
+    keep(Kind::print, std::array{at}, text.size(), text);
 }
 
 void DrawingList::clear() {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -65,7 +66,7 @@ class DrawingList : public Surface {
         bool operator==(const Inserted&) const = default;
     };
 
-    void keep(Kind kind, std::size_t count);
+    void keep(Kind kind, std::span<const Point> its_points, std::size_t count, const std::string& text = {});
     Bounds bounds_of_entry(const Entry& entry) const;
     void draw(const Entry& entry, Surface& target) const;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/campaign.h"
+#include "core/changes.h"
 #include "core/drawing_list.h"
 #include "core/form.h"
 #include "core/frmMain.h"
@@ -61,18 +62,6 @@ struct UnitPlans {
     std::vector<Plan> areas;
 };
 
-/// Artillery pieces of units, in the order of the units and of their elements.
-struct ArtilleryPieces {
-    struct Piece {
-        const oUnits* unit;
-        const oUnitForceElements* element;
-        const oForceElements* entry; // of the catalogue
-    };
-
-    std::vector<Piece> pieces;
-    int failure = 0; // of a unit with an element that the catalogue lacks, 0 when there is none
-};
-
 /// What the layers draw on. The overview's and the rulers' pens are their own.
 struct Painting {
     DrawingList map;
@@ -81,7 +70,7 @@ struct Painting {
     DrawingList overview;
     OverviewLines overview_lines;
     Kept<UnitPlans, 3> unit_plans;
-    Kept<ArtilleryPieces, 3> artillery_pieces;
+    Kept<std::vector<const oUnits*>, 3> units_with_fans;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
     long number = 0;         // counts the paints

@@ -42,7 +42,7 @@ struct oUnitForceElements {
 
 template <> struct ListChanges<oUnitForceElements> : HoldingChanges {};
 
-/// Holdings of a unit and its subordinates added up; never stored.
+/// Holdings of a unit's subordinates added up; never stored.
 struct oAccuUFE : oUnitForceElements {};
 
 /// One leg of a unit's movement. In its list it does not change: to change it is to put another in its place.

@@ -1,11 +1,11 @@
 #include "operations/fire_fans.h"
 
 #include "annotation/draw_lines.h"
+#include "core/catalogue.h"
 #include "core/marker_of.h"
 #include "core/numbers.h"
 #include "core/trap.h"
 #include "core/unit_place.h"
-#include "operations/artillery_pieces.h"
 
 #include <cmath>
 
@@ -18,16 +18,15 @@ constexpr std::int32_t red = 255;
 constexpr std::int32_t green = 0xFF00;
 constexpr std::int32_t blue = 0xFF0000;
 
-using Piece = ArtilleryPieces::Piece;
-
 /// Draws the piece's arc of 60 degrees around its bearing, or the full circle.
-void draw_firefan(Surface& surface, Point at, const Piece& piece, double radius) {
+void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element, const oForceElements& piece,
+                  double radius) {
     surface.pen.DrawStyle = 0;
-    if (!piece.entry->firefan) {
+    if (!piece.firefan) {
         surface.circle(at, radius);
         return;
     }
-    int middle = 360 - piece.element->FireFanAngle + 90; // counter-clockwise from the east
+    int middle = 360 - element.FireFanAngle + 90; // counter-clockwise from the east
     if (middle >= 360) middle -= 360;
     int start = middle - 30;
     if (start < 0) start += 360;
@@ -36,49 +35,94 @@ void draw_firefan(Surface& surface, Point at, const Piece& piece, double radius)
     surface.pie(at, radius, start * pi / 180, end * pi / 180);
 }
 
+/// Runs `draw(element, piece)` for each artillery piece of the unit.
+template <class Draw> void for_each_piece(const Program& program, const oUnits& unit, Draw draw) {
+    if (unit.force_elements.empty()) return;
+    for (const auto& element : unit.force_elements)
+        if (const oForceElements* const piece = artillery_piece(program, *element)) draw(*element, *piece);
+}
+
+/// Whether the unit has an artillery piece, or an element that the catalogue lacks: to draw its fans fails
+/// then, which is to be told.
+bool may_have_fans(const Program& program, const oUnits& unit) {
+    bool has_piece = false;
+    const int number = failure_of([&] {
+        for_each_piece(program, unit,
+                       [&](const auto& /*element*/, const auto& /*piece*/) { has_piece = true; });
+    });
+    return has_piece || number != 0;
+}
+
 bool is_active(const Program& program, const oUnits& unit) {
     return program.main.picUnitInfo.visible && program.campaign.curUnit.get() == &unit;
 }
 
-bool is_current(const Program& program, const Piece& piece) {
-    return program.campaign.curUFE.get() == piece.element;
+bool is_current(const Program& program, const oUnitForceElements& element) {
+    return program.campaign.curUFE.get() == &element;
 }
 
-void draw_on_overview(const Program& program, Surface& overview, const Piece& piece, std::int32_t colour) {
+void draw_on_overview(const Program& program, Surface& overview, const oUnits& unit,
+                      const oUnitForceElements& element, const oForceElements& piece, std::int32_t colour) {
     const frmMain& main = program.main;
-    if (marker_of(main, *piece.unit) == nullptr) return; // nor has it a dot
-    const OverviewDot& dot = main.shpUnit(piece.unit->img_index);
+    if (marker_of(main, unit) == nullptr) return; // nor has it a dot
+    const OverviewDot& dot = main.shpUnit(unit.img_index);
     const double ratio = main.picOverviewmap.scale_width() / main.picMap.width;
     overview.pen.DrawMode = 9;
     overview.pen.FillStyle = 0;
     overview.pen.FillColor = colour;
-    draw_firefan(overview, {dot.left + 1, dot.top + 2}, piece,
-                 ratio * piece.entry->max_range * pixels_per_metre);
+    draw_firefan(overview, {dot.left + 1, dot.top + 2}, element, piece,
+                 ratio * piece.max_range * pixels_per_metre);
 }
 
-void draw_on_map(const Program& program, Painting& painting, const Piece& piece) {
+void draw_unit_on_overview(const Program& program, Surface& overview, const oUnits& unit) {
+    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
+        const std::int32_t side = unit.affiliation == "Allied" ? red : blue;
+        draw_on_overview(program, overview, unit, element, piece,
+                         is_current(program, element) ? green : side);
+    });
+}
+
+void draw_unit_firefans(const Program& program, Painting& painting, const oUnits& unit) {
     Surface& map = painting.map;
-    const oUnits& unit = *piece.unit;
-    const bool active = is_active(program, unit);
-    const bool current = is_current(program, piece);
-    map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
-    map.pen.FillColor = !active ? blue : current ? green : red;
-    draw_firefan(map, place_of(unit), piece, piece.entry->max_range * pixels_per_metre);
-    // The element in hand is to be seen on the overview whatever that one shows.
-    if (current && active) draw_on_overview(program, painting.overview, piece, green);
+    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
+        map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
+        map.pen.FillColor = blue;
+        const bool current = is_current(program, element);
+        if (is_active(program, unit)) map.pen.FillColor = current ? green : red;
+        draw_firefan(map, place_of(unit), element, piece, piece.max_range * pixels_per_metre);
+        // The element in hand is to be seen on the overview whatever that one shows.
+        if (current && is_active(program, unit))
+            draw_on_overview(program, painting.overview, unit, element, piece, green);
+    });
 }
 
-/// Runs `draw(piece)` for each piece that `find` gives. Fans that can't be drawn leave the others and the
-/// rest of the picture alone; the paint tells of them at its end.
-template <class Find, class Draw> void draw_fans(Painting& painting, Find find, Draw draw) {
-    const auto note = [&](int number) {
-        if (number != 0) painting.firefan_failure = number;
+/// The units with fans as they now are: good until the list of units, what one of them holds or the catalogue
+/// changes. Each paint draws them, and most units of a large campaign have none.
+const std::vector<const oUnits*>& units_with_fans(Program& program) {
+    const Campaign& campaign = program.campaign;
+    const auto find_all = [&] {
+        std::vector<const oUnits*> found;
+        for (const auto& unit : campaign.colUnits)
+            if (may_have_fans(program, *unit)) found.push_back(unit.get());
+        return found;
     };
-    note(failure_of([&] {
-        const ArtilleryPieces& found = find();
-        for (const Piece& piece : found.pieces) note(failure_of([&] { draw(piece); }));
-        note(found.failure);
-    }));
+    return program.painting.units_with_fans.get(find_all, campaign.colUnits->version(),
+                                                HoldingChanges::count(),
+                                                campaign.colForceElements->version());
+}
+
+/// Runs `draw`. Fans that can't be drawn leave those of other units and the rest of the picture alone; the
+/// paint tells of them at its end.
+template <class Draw> void try_fans(Painting& painting, Draw draw) {
+    const int number = failure_of(draw);
+    if (number != 0) painting.firefan_failure = number;
+}
+
+/// Runs `draw(unit)` for each unit with fans.
+template <class Draw> void try_fans_of_all(Program& program, Painting& painting, Draw draw) {
+    try_fans(painting, [&] {
+        for (const oUnits* const unit : units_with_fans(program)) try_fans(painting, [&] { draw(*unit); });
+    });
 }
 
 } // namespace
@@ -105,12 +149,8 @@ void set_firefan_angle(Program& program, double x, double y) {
 
 void draw_overview(Program& program, Painting& painting) {
     painting.overview.clear();
-    const auto find = [&]() -> const ArtilleryPieces& { return all_artillery_pieces(program); };
-    const auto draw = [&](const Piece& piece) {
-        const std::int32_t side = piece.unit->affiliation == "Allied" ? red : blue;
-        draw_on_overview(program, painting.overview, piece, is_current(program, piece) ? green : side);
-    };
-    if (program.campaign.gDispOmFirefans) draw_fans(painting, find, draw);
+    const auto draw = [&](const oUnits& unit) { draw_unit_on_overview(program, painting.overview, unit); };
+    if (program.campaign.gDispOmFirefans) try_fans_of_all(program, painting, draw);
     if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting);
 }
 
@@ -118,14 +158,12 @@ bool firefans_are_shown(const Program& program) { return program.campaign.gDispF
 
 void draw_firefans(Program& program, Painting& painting) {
     const Campaign& campaign = program.campaign;
-    const auto all = [&]() -> const ArtilleryPieces& { return all_artillery_pieces(program); };
-    const auto of_selected = [&] { return artillery_pieces_of(program, *campaign.curUnit); };
-    const auto draw = [&](const Piece& piece) { draw_on_map(program, painting, piece); };
+    const auto draw = [&](const oUnits& unit) { draw_unit_firefans(program, painting, unit); };
     if (program.main.picUnitInfo.visible && campaign.gDispFirefansSelected) {
         painting.map.pen.ForeColor = red;
-        if (campaign.curUnit) draw_fans(painting, of_selected, draw);
+        if (campaign.curUnit) try_fans(painting, [&] { draw(*campaign.curUnit); });
     } else if (campaign.gDispFirefansAll) {
         painting.map.pen.ForeColor = blue;
-        draw_fans(painting, all, draw);
+        try_fans_of_all(program, painting, draw);
     }
 }

@@ -54,10 +54,11 @@ void gather(UnitPlans& plans, const oUnits& unit) {
 
 const UnitPlans& unit_plans(Program& program) {
     const Collection<oUnits>& units = *program.campaign.colUnits;
-    return program.painting.unit_plans.get({units.version(), UnitMoves::count(), CornerChanges::count()},
-                                           [&] {
-                                               UnitPlans plans;
-                                               for (const auto& unit : units) gather(plans, *unit);
-                                               return plans;
-                                           });
+    const auto gather_all = [&] {
+        UnitPlans plans;
+        for (const auto& unit : units) gather(plans, *unit);
+        return plans;
+    };
+    return program.painting.unit_plans.get(gather_all, units.version(), UnitMoves::count(),
+                                           CornerChanges::count());
 }

@@ -10,6 +10,10 @@
 static_assert(std::is_same_v<decltype(oUnits::color), std::int32_t>);
 static_assert(std::is_same_v<decltype(oUnits::xcoord), Counted<std::int16_t, UnitMoves>>);
 static_assert(sizeof(oUnits::xcoord) == 2);
+static_assert(std::is_same_v<decltype(oUnitForceElements::Index), Counted<std::int16_t, HoldingChanges>>);
+static_assert(sizeof(oUnitForceElements::Index) == 2);
+// An entry is settled when it is listed, so that the version of the list tells of every change.
+static_assert(std::is_same_v<decltype(Campaign::colForceElements), CollectionRef<const oForceElements>>);
 static_assert(std::is_same_v<decltype(oUnits::img_index), std::int16_t>);
 static_assert(std::is_same_v<decltype(oUnits::state), std::int16_t>);
 static_assert(std::is_same_v<decltype(oWaypoint::speed), double>);

@@ -31,11 +31,11 @@ TEST(Kept, IsWorkedOutOnceForTheSameCounts) {
     Kept<int, 2> kept;
     int times = 0;
     const auto work_out = [&] { return ++times; };
-    EXPECT_EQ(kept.get({0, 0}, work_out), 1) << "also for counts that nothing has raised yet";
-    EXPECT_EQ(kept.get({0, 0}, work_out), 1);
-    EXPECT_EQ(kept.get({0, 1}, work_out), 2);
-    EXPECT_EQ(kept.get({1, 1}, work_out), 3);
-    EXPECT_EQ(kept.get({1, 1}, work_out), 3);
+    EXPECT_EQ(kept.get(work_out, 0U, 0U), 1) << "also for counts that nothing has raised yet";
+    EXPECT_EQ(kept.get(work_out, 0U, 0U), 1);
+    EXPECT_EQ(kept.get(work_out, 0U, 1U), 2);
+    EXPECT_EQ(kept.get(work_out, 1U, 1U), 3);
+    EXPECT_EQ(kept.get(work_out, 1U, 1U), 3);
 }
 
 TEST(Kept, FailureKeepsNothingOfWhatWasNotFinished) {
@@ -47,7 +47,7 @@ TEST(Kept, FailureKeepsNothingOfWhatWasNotFinished) {
         half.push_back(2);
         return half;
     };
-    EXPECT_THROW(kept.get({7}, work_out), Failure);
+    EXPECT_THROW(kept.get(work_out, 7U), Failure);
     fails = false;
-    EXPECT_EQ(kept.get({7}, work_out), (std::vector<int>{1, 2}));
+    EXPECT_EQ(kept.get(work_out, 7U), (std::vector<int>{1, 2}));
 }

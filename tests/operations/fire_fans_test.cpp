@@ -51,11 +51,20 @@ class FireFans : public ProgramTest {
     std::pair<int, int> arc(int angle) {
         unit->force_elements.drop();
         add_element(12, angle);
-        painting.map.clear();
-        draw_firefans(program, painting);
-        const auto figure = painting.map.figures().at(0);
+        const auto figure = figure_of_map();
         const double degrees = 180 / std::numbers::pi;
         return {to_long(figure.start * degrees), to_long(figure.end * degrees)};
+    }
+
+    Told on_overview() {
+        draw_overview(program, painting);
+        return told(painting.overview);
+    }
+
+    DrawingList::Figure figure_of_map() {
+        painting.map.clear();
+        draw_firefans(program, painting);
+        return painting.map.figures().at(0);
     }
 
     std::shared_ptr<oUnits> unit;
@@ -203,19 +212,92 @@ TEST_F(FireFans, BrokenFanOfOneUnitLeavesThoseOfTheUnitsBehindIt) {
     EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
 }
 
-TEST_F(FireFans, FanThatCantBeDrawnLeavesTheOthersAndIsTold) {
+TEST_F(FireFans, FailureEndsTheFansOfItsUnitAndOfNoOther) {
     add_element(13);
-    program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
+    const auto first = unit;
     unit = add_unit("{2}");
     unit->img_index = 2;
-    add_element(13);
+    program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
+    program.campaign.curUFE = add_element(13);
+    add_element(12);
+    program.campaign.curUnit = unit;
+    program.main.picUnitInfo.visible = true;
+    program.campaign.gDispFirefans = true;
     unit = add_unit("{3}");
-    unit->img_index = 1;
+    unit->xcoord = 300;
     add_element(13);
-    program.main.imgUnit(1).tag = "{3}";
     picMap_Paint(program);
     EXPECT_EQ(platform.texts(), Told{"Error 340 when drawing firefans."});
-    EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
+    EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"}) << "of the first";
+    const Told all = told(program.painting.map);
+    EXPECT_EQ(Told(all.end() - 2, all.end()), (Told{"circle 0,0 r300", "circle 300,0 r300"}));
+}
+
+TEST_F(FireFans, NumberOfTheLastUnitThatFailsIsTold) {
+    add_element(77);
+    unit = add_unit("{2}");
+    unit->img_index = 2;
+    program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
+    add_element(13);
+    picMap_Paint(program);
+    EXPECT_EQ(platform.texts(), Told{"Error 340 when drawing firefans."});
+}
+
+TEST_F(FireFans, FollowWhatAUnitHolds) {
+    const Told none;
+    const Told circle{"circle 41,82 r12.5"};
+    EXPECT_EQ(on_overview(), none);
+    const auto element = add_element(14);
+    EXPECT_EQ(on_overview(), none);
+    element->Index = 13;
+    EXPECT_EQ(on_overview(), circle) << "of another kind now";
+    unit->force_elements->remove(element->ID);
+    EXPECT_EQ(on_overview(), none) << "removed";
+    add_element(13);
+    EXPECT_EQ(on_overview(), circle) << "added";
+    const auto copy = unit->force_elements;
+    unit->force_elements.drop();
+    EXPECT_EQ(on_overview(), none) << "dropped";
+    unit->force_elements = copy;
+    EXPECT_EQ(on_overview(), circle) << "shared";
+}
+
+TEST_F(FireFans, FollowTheListOfUnits) {
+    add_element(13);
+    EXPECT_EQ(on_overview().size(), 1U);
+    const auto late = std::make_shared<oUnits>(*unit);
+    EXPECT_EQ(on_overview().size(), 1U) << "in no list yet";
+    program.campaign.colUnits->add(late, "late");
+    EXPECT_EQ(on_overview().size(), 2U);
+    program.campaign.colUnits->remove("{1}");
+    EXPECT_EQ(on_overview().size(), 1U);
+    program.campaign.colUnits.drop();
+    EXPECT_EQ(on_overview().size(), 0U);
+}
+
+TEST_F(FireFans, FollowTheCatalogue) {
+    add_element(15);
+    EXPECT_EQ(on_overview().size(), 0U);
+    EXPECT_EQ(painting.firefan_failure, 5);
+    painting.firefan_failure = 0;
+    add_entry(15, 4, false, 2000);
+    EXPECT_EQ(on_overview().size(), 1U);
+    EXPECT_EQ(painting.firefan_failure, 0);
+    program.campaign.colForceElements.drop();
+    add_entry(15, 5, false, 2000);
+    EXPECT_EQ(on_overview().size(), 0U);
+}
+
+TEST_F(FireFans, FollowTheUnitItsDotAndItsAngle) {
+    const auto element = add_element(12, 90);
+    constexpr double degree = std::numbers::pi / 180;
+    EXPECT_NEAR(figure_of_map().start, 330 * degree, 0.001);
+    element->FireFanAngle = 270;
+    EXPECT_NEAR(figure_of_map().start, 150 * degree, 0.001);
+    unit->xcoord = 700;
+    EXPECT_EQ(figure_of_map().points.at(0).x, 700);
+    program.main.shpUnit(1).left = 60;
+    EXPECT_EQ(on_overview(), Told{"pie 61,82 r25"});
 }
 
 TEST_F(FireFans, LinesOnTheOverviewFollowTheirMenuEntry) {

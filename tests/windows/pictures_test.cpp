@@ -230,7 +230,32 @@ TEST_F(Pictures, TextStandsBelowItsPointAndFurtherLinesBelowTheFirst) {
     EXPECT_EQ(both[first.size() - 1], first.back());
     EXPECT_GT(both[first.size()], first.back());
     EXPECT_LT(both[first.size()], first.back() + 12);
-    EXPECT_TRUE(rows_with_letters("").empty());
+}
+
+TEST_F(Pictures, EachTextHasTheSizeAndWeightOfItsPen) {
+    const auto pixels = [](const std::vector<std::pair<int, bool>>& looks) {
+        Ground on;
+        QPainter painter(&on.image);
+        PainterSurface surface(painter);
+        std::vector<int> counts;
+        for (const auto& [size, bold] : looks) {
+            on.image.fill(ground);
+            surface.pen.FontSize = size;
+            surface.pen.FontBold = bold;
+            surface.print({8, 10}, "HM");
+            int count = 0;
+            for (int y = 0; y < 64; ++y)
+                for (int x = 0; x < 64; ++x) count += on.at(x, y) != ground ? 1 : 0;
+            counts.push_back(count);
+        }
+        return counts;
+    };
+    const std::vector<int> all = pixels({{8, false}, {12, false}, {8, true}, {8, false}});
+    EXPECT_LT(all[0], all[1]);
+    EXPECT_LT(all[0], all[2]);
+    EXPECT_EQ(all[0], all[3]);
+    EXPECT_EQ(pixels({{12, false}})[0], all[1]);
+    EXPECT_EQ(pixels({{8, true}})[0], all[2]);
 }
 
 TEST_F(Pictures, DashesAreForPensOfOnePixel) {
