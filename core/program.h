@@ -62,6 +62,18 @@ struct UnitPlans {
     std::vector<Plan> areas;
 };
 
+/// The artillery pieces of a unit with their entries of the catalogue.
+struct UnitFans {
+    struct Piece {
+        const oUnitForceElements* element;
+        const oForceElements* entry;
+    };
+
+    const oUnits* unit;
+    std::vector<Piece> pieces;
+    int failure = 0; // of the element behind them that the catalogue lacks, 0 when these are all
+};
+
 /// What the layers draw on. The overview's and the rulers' pens are their own.
 struct Painting {
     DrawingList map;
@@ -70,7 +82,7 @@ struct Painting {
     DrawingList overview;
     OverviewLines overview_lines;
     Kept<UnitPlans, 3> unit_plans;
-    Kept<std::vector<const oUnits*>, 3> units_with_fans;
+    Kept<std::vector<UnitFans>, 3> units_with_fans;
     Pens began_with;         // as they stood before the first layer
     int firefan_failure = 0; // fans have a message of their own
     long number = 0;         // counts the paints

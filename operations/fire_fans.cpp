@@ -8,6 +8,7 @@
 #include "core/unit_place.h"
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -35,22 +36,22 @@ void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element,
     surface.pie(at, radius, start * pi / 180, end * pi / 180);
 }
 
-/// Runs `draw(element, piece)` for each artillery piece of the unit.
-template <class Draw> void for_each_piece(const Program& program, const oUnits& unit, Draw draw) {
-    if (unit.force_elements.empty()) return;
-    for (const auto& element : unit.force_elements)
-        if (const oForceElements* const piece = artillery_piece(program, *element)) draw(*element, *piece);
+UnitFans fans_of(const Program& program, const oUnits& unit) {
+    UnitFans fans{&unit, {}, 0};
+    if (unit.force_elements.empty()) return fans;
+    fans.failure = failure_of([&] {
+        for (const auto& element : unit.force_elements)
+            if (const oForceElements* const entry = artillery_piece(program, *element))
+                fans.pieces.push_back({element.get(), entry});
+    });
+    if (fans.failure == failure::out_of_memory) throw Failure{fans.failure}; // not to be kept
+    return fans;
 }
 
-/// Whether the unit has an artillery piece, or an element that the catalogue lacks: to draw its fans fails
-/// then, which is to be told.
-bool may_have_fans(const Program& program, const oUnits& unit) {
-    bool has_piece = false;
-    const int number = failure_of([&] {
-        for_each_piece(program, unit,
-                       [&](const auto& /*element*/, const auto& /*piece*/) { has_piece = true; });
-    });
-    return has_piece || number != 0;
+/// Runs `draw(element, piece)` for each artillery piece of the unit.
+template <class Draw> void for_each_piece(const UnitFans& fans, Draw draw) {
+    for (const auto& [element, entry] : fans.pieces) draw(*element, *entry);
+    if (fans.failure != 0) throw Failure{fans.failure};
 }
 
 bool is_active(const Program& program, const oUnits& unit) {
@@ -74,17 +75,19 @@ void draw_on_overview(const Program& program, Surface& overview, const oUnits& u
                  ratio * piece.max_range * pixels_per_metre);
 }
 
-void draw_unit_on_overview(const Program& program, Surface& overview, const oUnits& unit) {
-    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
+void draw_unit_on_overview(const Program& program, Surface& overview, const UnitFans& fans) {
+    const oUnits& unit = *fans.unit;
+    for_each_piece(fans, [&](const oUnitForceElements& element, const oForceElements& piece) {
         const std::int32_t side = unit.affiliation == "Allied" ? red : blue;
         draw_on_overview(program, overview, unit, element, piece,
                          is_current(program, element) ? green : side);
     });
 }
 
-void draw_unit_firefans(const Program& program, Painting& painting, const oUnits& unit) {
+void draw_unit_firefans(const Program& program, Painting& painting, const UnitFans& fans) {
     Surface& map = painting.map;
-    for_each_piece(program, unit, [&](const oUnitForceElements& element, const oForceElements& piece) {
+    const oUnits& unit = *fans.unit;
+    for_each_piece(fans, [&](const oUnitForceElements& element, const oForceElements& piece) {
         map.pen.FillStyle = unit.affiliation == "Allied" ? 2 : 3;
         map.pen.FillColor = blue;
         const bool current = is_current(program, element);
@@ -96,14 +99,17 @@ void draw_unit_firefans(const Program& program, Painting& painting, const oUnits
     });
 }
 
-/// The units with fans as they now are: good until the list of units, what one of them holds or the catalogue
-/// changes. Each paint draws them, and most units of a large campaign have none.
-const std::vector<const oUnits*>& units_with_fans(Program& program) {
+/// The fans of all units that have any, or whose drawing fails, as they now are: good, with their pointers,
+/// until the list of units, what one of them holds or the catalogue changes. Each paint draws them, and most
+/// units of a large campaign have none.
+const std::vector<UnitFans>& units_with_fans(Program& program) {
     const Campaign& campaign = program.campaign;
     const auto find_all = [&] {
-        std::vector<const oUnits*> found;
-        for (const auto& unit : campaign.colUnits)
-            if (may_have_fans(program, *unit)) found.push_back(unit.get());
+        std::vector<UnitFans> found;
+        for (const auto& unit : campaign.colUnits) {
+            UnitFans fans = fans_of(program, *unit);
+            if (!fans.pieces.empty() || fans.failure != 0) found.push_back(std::move(fans));
+        }
         return found;
     };
     return program.painting.units_with_fans.get(find_all, campaign.colUnits->version(),
@@ -118,10 +124,10 @@ template <class Draw> void try_fans(Painting& painting, Draw draw) {
     if (number != 0) painting.firefan_failure = number;
 }
 
-/// Runs `draw(unit)` for each unit with fans.
+/// Runs `draw(fans)` for each unit with fans.
 template <class Draw> void try_fans_of_all(Program& program, Painting& painting, Draw draw) {
     try_fans(painting, [&] {
-        for (const oUnits* const unit : units_with_fans(program)) try_fans(painting, [&] { draw(*unit); });
+        for (const UnitFans& fans : units_with_fans(program)) try_fans(painting, [&] { draw(fans); });
     });
 }
 
@@ -149,7 +155,7 @@ void set_firefan_angle(Program& program, double x, double y) {
 
 void draw_overview(Program& program, Painting& painting) {
     painting.overview.clear();
-    const auto draw = [&](const oUnits& unit) { draw_unit_on_overview(program, painting.overview, unit); };
+    const auto draw = [&](const UnitFans& fans) { draw_unit_on_overview(program, painting.overview, fans); };
     if (program.campaign.gDispOmFirefans) try_fans_of_all(program, painting, draw);
     if (program.main.mnuOVPU_showlines.checked) draw_overview_lines(program, painting);
 }
@@ -158,10 +164,10 @@ bool firefans_are_shown(const Program& program) { return program.campaign.gDispF
 
 void draw_firefans(Program& program, Painting& painting) {
     const Campaign& campaign = program.campaign;
-    const auto draw = [&](const oUnits& unit) { draw_unit_firefans(program, painting, unit); };
+    const auto draw = [&](const UnitFans& fans) { draw_unit_firefans(program, painting, fans); };
     if (program.main.picUnitInfo.visible && campaign.gDispFirefansSelected) {
         painting.map.pen.ForeColor = red;
-        if (campaign.curUnit) try_fans(painting, [&] { draw(*campaign.curUnit); });
+        if (campaign.curUnit) try_fans(painting, [&] { draw(fans_of(program, *campaign.curUnit)); });
     } else if (campaign.gDispFirefansAll) {
         painting.map.pen.ForeColor = blue;
         try_fans_of_all(program, painting, draw);
