@@ -36,6 +36,7 @@ void draw_firefan(Surface& surface, Point at, const oUnitForceElements& element,
     surface.pie(at, radius, start * pi / 180, end * pi / 180);
 }
 
+/// The unit's pieces up to an element that the catalogue lacks. Fails with 7.
 UnitFans fans_of(const Program& program, const oUnits& unit) {
     UnitFans fans{&unit, {}, 0};
     if (unit.force_elements.empty()) return fans;
@@ -48,7 +49,8 @@ UnitFans fans_of(const Program& program, const oUnits& unit) {
     return fans;
 }
 
-/// Runs `draw(element, piece)` for each artillery piece of the unit.
+/// Runs `draw(element, piece)` for each artillery piece of the unit, then fails if there should have been
+/// more.
 template <class Draw> void for_each_piece(const UnitFans& fans, Draw draw) {
     for (const auto& [element, entry] : fans.pieces) draw(*element, *entry);
     if (fans.failure != 0) throw Failure{fans.failure};

@@ -214,7 +214,6 @@ TEST_F(FireFans, BrokenFanOfOneUnitLeavesThoseOfTheUnitsBehindIt) {
 
 TEST_F(FireFans, FailureEndsTheFansOfItsUnitAndOfNoOther) {
     add_element(13);
-    const auto first = unit;
     unit = add_unit("{2}");
     unit->img_index = 2;
     program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
