@@ -123,14 +123,15 @@ template <class T> class Collection {
     /// Like `add`, but a present key is told by the answer: false, and nothing changes.
     bool add_new(Item item, std::string_view key) {
         const std::size_t place = records.size();
-        make_room_for_one(); // before anything changes: memory may run out
+        // Before anything changes: memory may run out.
+        make_room_for_one();
         RecordKey named(key);
+        if (!indexed() && place >= largest_without_index) build_index();
         if (indexed() ? !index.add_new(key, place, key_at()) : place_of(key) != none) return false;
         note_change();
         records.push_back(std::move(item));
         keys.resize(place);
         keys.push_back(std::move(named));
-        if (!indexed() && records.size() > largest_without_index) build_index();
         return true;
     }
 
@@ -138,11 +139,13 @@ template <class T> class Collection {
     void insert_after(std::size_t position, Item item) {
         close_gaps();
         if (position > records.size()) throw Failure{failure::no_such_position};
+        const bool before_keys = position < keys.size();
+        if (before_keys) make_room_for_one();
         note_change();
         const auto at = static_cast<std::ptrdiff_t>(position);
         records.insert(records.begin() + at, std::move(item));
-        if (position < keys.size()) keys.insert(keys.begin() + at, RecordKey());
-        if (indexed()) build_index();
+        if (before_keys) keys.insert(keys.begin() + at, RecordKey());
+        if (indexed()) renew_index();
     }
 
     bool contains(std::string_view key) const { return place_of(key) != none; }
@@ -194,7 +197,7 @@ template <class T> class Collection {
         const auto at = static_cast<std::ptrdiff_t>(position - 1);
         records.erase(records.begin() + at);
         if (position <= keys.size()) keys.erase(keys.begin() + at);
-        if (indexed()) build_index();
+        if (indexed()) renew_index();
     }
 
     void clear() {
@@ -247,8 +250,18 @@ template <class T> class Collection {
         return place;
     }
 
-    void build_index() const {
+    void build_index() {
         index.start(records.capacity());
+        enter_keys();
+    }
+
+    /// After records have moved. Takes no memory: there are no more keys than before.
+    void renew_index() const {
+        index.forget_keys();
+        enter_keys();
+    }
+
+    void enter_keys() const {
         for (std::size_t i = 0; i < keys.size(); ++i)
             if (keys[i].present()) index.add_new(keys[i].text(), i, key_at());
     }
@@ -265,10 +278,10 @@ template <class T> class Collection {
         records.resize(kept);
         keys.resize(std::min(keys.size(), kept));
         gaps = 0;
-        if (records.size() > largest_without_index)
-            build_index();
-        else
+        if (records.size() <= largest_without_index)
             index.clear();
+        else if (indexed())
+            renew_index();
     }
 
     // Closing gaps changes nothing that a caller can see, so a reader may do it.

@@ -18,6 +18,11 @@ class KeyIndex {
 
     bool empty() const { return marks.empty(); }
     void clear() { *this = {}; }
+    /// Forgets all keys and keeps their room.
+    void forget_keys() {
+        std::fill(marks.begin(), marks.end(), unused);
+        used = 0;
+    }
     /// Forgets all keys and makes room for so many.
     void start(std::size_t keys) {
         const std::size_t slots = std::bit_ceil(std::max(2 * keys, smallest));

@@ -6,6 +6,7 @@
 #include <exception>
 #include <new>
 #include <string>
+#include <string_view>
 #include <utility>
 
 /// Runs a command or a part of it and answers the number of its failure, 0 when there was none. Too little
@@ -24,13 +25,13 @@ template <class Body> int failure_of(Body&& body) {
 }
 
 /// Shows "Error ", the number and the ending.
-inline void show_failure(Program& program, int number, const std::string& ending, Icon icon = Icon::none) {
-    program.platform.message({"Error " + std::to_string(number) + ending, icon});
+inline void show_failure(Program& program, int number, std::string_view ending, Icon icon = Icon::none) {
+    program.platform.message({"Error " + std::to_string(number).append(ending), icon});
 }
 
 /// The trap of a command: a failure ends the body, its message is shown, and what was done so far stays.
 template <class Body>
-void trap(Program& program, const std::string& ending, Body&& body, Icon icon = Icon::none) {
+void trap(Program& program, std::string_view ending, Body&& body, Icon icon = Icon::none) {
     const int number = failure_of(std::forward<Body>(body));
     if (number != 0) show_failure(program, number, ending, icon);
 }
