@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 // What a paint needs of thousands of records is worked out once and kept, so that it need not look at each of
 // them. Counts tell that something it was worked out from has changed since.
@@ -17,13 +18,15 @@ template <class Kind> class Changes {
     static inline std::uint64_t changes = 0;
 };
 
-/// Any corner of a figure, or any list of them.
+/// Any corner of a figure, any list of them, or any list of waypoints.
 using CornerChanges = Changes<struct CornerKind>;
 /// The place of any unit on the map.
 using UnitMoves = Changes<struct UnitPlaceKind>;
 /// The force elements of any unit: which there are, and of which kind. All else of them is read when it is
 /// used.
 using HoldingChanges = Changes<struct HoldingKind>;
+/// Which record a control over the map belongs to.
+using TagChanges = Changes<struct TagKind>;
 
 /// What a change of a list of such records counts as: of most kinds, as none.
 template <class T> struct ListChanges {
@@ -34,21 +37,21 @@ template <class T> struct ListChanges {
 template <class Value, class Count> class Counted {
   public:
     Counted() = default;
-    Counted(Value value) : value(value) {}
+    Counted(Value value) : value(std::move(value)) {}
     Counted(const Counted&) = default;
     ~Counted() = default;
 
     Counted& operator=(Value changed) {
-        value = changed;
+        value = std::move(changed);
         Count::add_one();
         return *this;
     }
     Counted& operator=(const Counted& other) { return *this = other.value; }
 
-    operator Value() const { return value; }
+    operator const Value&() const { return value; }
 
   private:
-    Value value = 0;
+    Value value{};
 };
 
 /// What was worked out from many records, good as long as the counts that tell of their changes stand.

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "core/changes.h"
 #include "core/controls.h"
 #include "core/failure.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The controls that stand over the map or the overview, one per unit, label or shape. They are a drawing
@@ -18,11 +20,24 @@ using PictureId = int;
 /// The tag of a control whose record is gone. Its index is never used again.
 inline const std::string deleted_tag = "deleted";
 
+/// The ID of a control's record, or "deleted".
+class Tag : public Counted<std::string, TagChanges> {
+  public:
+    using Counted::Counted;
+    using Counted::operator=;
+
+    operator std::string_view() const { return text(); }
+    friend bool operator==(const Tag& tag, std::string_view text) { return tag.text() == text; }
+
+  private:
+    const std::string& text() const { return *this; }
+};
+
 enum class Container : std::uint8_t { map, tray };
 
 /// What all controls over the map have: map pixels, or pixels of the tray.
 struct MapControl {
-    std::string tag; // the record's ID, or "deleted"
+    Tag tag;
     double left = 0;
     double top = 0;
     double width = 0;

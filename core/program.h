@@ -83,9 +83,10 @@ struct Painting {
     OverviewLines overview_lines;
     Kept<UnitPlans, 3> unit_plans;
     Kept<std::vector<UnitFans>, 3> units_with_fans;
-    Pens began_with;         // as they stood before the first layer
-    int firefan_failure = 0; // fans have a message of their own
-    long number = 0;         // counts the paints
+    Kept<std::vector<const oUnits*>, 3> units_of_markers; // by the marker's index
+    Pens began_with;                                      // as they stood before the first layer
+    int firefan_failure = 0;                              // fans have a message of their own
+    long number = 0;                                      // counts the paints
 
     Pens pens() const { return {map.pen, hcoord.pen, vcoord.pen, overview.pen}; }
     void set_pens(const Pens& pens) {

@@ -20,18 +20,39 @@ void draw_subordinate_links(const Program& program, Surface& map, const oUnits& 
     path.erase(&unit);
 }
 
-/// Runs `print(marker, unit)` in the look of names for each visible marker.
-template <class Print> void print_names(const Program& program, Surface& map, Print print) {
+/// The unit of each marker, nothing where the tag leads to none: good, with its pointers, until the list of
+/// units, a tag or the number of markers changes. Each paint goes over all of them twice.
+const std::vector<const oUnits*>& units_of_markers(Program& program) {
+    const Campaign& campaign = program.campaign;
+    const ControlArray<UnitMarker>& markers = program.main.imgUnit;
+    const auto count = static_cast<std::size_t>(campaign.gNextUnitIndex);
+    const auto look_all_up = [&] {
+        std::vector<const oUnits*> units(count, nullptr);
+        for (int i = 1; i < campaign.gNextUnitIndex; ++i)
+            if (markers.has(i))
+                units[static_cast<std::size_t>(i)] = campaign.colUnits->look_up(markers(i).tag);
+        return units;
+    };
+    return program.painting.units_of_markers.get(look_all_up, campaign.colUnits->version(),
+                                                 TagChanges::count(), count);
+}
+
+/// Runs `print(marker, unit)` in the look of names for each visible marker. Fails with 5 at one whose unit is
+/// gone, wherever it stands.
+template <class Print> void print_names(Program& program, Surface& map, Print print) {
     map.pen.FontSize = 8;
     map.pen.FontBold = true;
     map.pen.ForeColor = 0;
     // A name starts beside its marker and goes on to the right and down, however long it is.
     const double em = 2.0 * map.pen.FontSize;
+    const std::vector<const oUnits*>& units = units_of_markers(program);
     for (int i = 1; i < program.campaign.gNextUnitIndex; ++i) {
         const UnitMarker& marker = program.main.imgUnit(i);
         if (!marker.visible || marker.tag == deleted_tag) continue;
+        const oUnits* const unit = units[static_cast<std::size_t>(i)];
+        if (unit == nullptr) throw Failure{failure::invalid_call};
         if (marker.left - em > map.wanted.right || marker.top - em > map.wanted.bottom) continue;
-        print(marker, *program.campaign.colUnits->item(marker.tag));
+        print(marker, *unit);
     }
     map.pen.FontBold = false;
 }

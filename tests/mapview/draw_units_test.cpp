@@ -105,6 +105,37 @@ TEST_F(UnitDrawing, NamesStandUnderAndBesideVisibleMarkers) {
     EXPECT_FALSE(painting.map.pen.FontBold);
 }
 
+TEST_F(UnitDrawing, NameOfAMarkerWhoseUnitIsGoneFailsWhereverItStands) {
+    painting.map.wanted = {0, 0, 1000, 1000};
+    UnitMarker& marker = add_marker("{gone}", 0, 0);
+    for (const Point place : {Point{500, 500}, {-500, 500}, {5000, 500}, {500, -500}, {500, 5000}}) {
+        marker.left = place.x;
+        marker.top = place.y;
+        painting.map.pen.FontBold = false;
+        EXPECT_EQ(number_of([&] { draw_unit_names(program, painting); }), 5) << place.x << " " << place.y;
+        EXPECT_TRUE(painting.map.pen.FontBold) << "as the failure leaves it";
+    }
+}
+
+TEST_F(UnitDrawing, NamesFollowUnitsMarkersAndTags) {
+    const auto drawn = [&] {
+        painting.map.clear();
+        draw_unit_names(program, painting);
+        return told(painting.map);
+    };
+    add_unit("{1}");
+    EXPECT_EQ(drawn(), Told{});
+    add_marker("{1}", 100, 200);
+    EXPECT_EQ(drawn(), Told{"text 100,231 unit {1}"});
+    add_unit("{2}")->name = "second";
+    program.main.imgUnit(1).tag = "{2}";
+    EXPECT_EQ(drawn(), Told{"text 100,231 second"});
+    program.campaign.colUnits->remove("{2}");
+    EXPECT_EQ(number_of(drawn), 5);
+    program.main.imgUnit(1).tag = deleted_tag;
+    EXPECT_EQ(drawn(), Told{});
+}
+
 TEST_F(UnitDrawing, NamesAreGatedByTheirOptions) {
     EXPECT_FALSE(unit_names_are_shown(program));
     EXPECT_FALSE(unit_hq_names_are_shown(program));
