@@ -12,14 +12,6 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-namespace {
-
-bool shows_scratch_lines(const frmMain& main) {
-    return main.linTempLine.visible || main.linTempLine2.visible || main.shpRubberband.visible;
-}
-
-} // namespace
-
 MapView::MapView(Program& program, const Sprites& sprites, EventRunner& events, QWidget* parent)
     : QWidget(parent), program(program), sprites(sprites), events(events) {
     install_map_accessibility();
@@ -55,6 +47,11 @@ void MapView::update_find_marker() {
     const LineControl& stroke = program.main.linFindgridx;
     const QPointF centre = QPointF((stroke.x1 + stroke.x2) / 2, stroke.y1) + origin();
     update(QRectF(centre.x() - reach, centre.y() - reach, 2 * reach, 2 * reach).toAlignedRect());
+}
+
+void MapView::update_scratch_lines() {
+    const frmMain& main = program.main;
+    if (main.linTempLine.visible || main.linTempLine2.visible || main.shpRubberband.visible) update();
 }
 
 QRect MapView::inside() const {
@@ -105,7 +102,7 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
         // While a button is down the moves go to the control that was pressed.
         mouse_move(program, press.button != 0 ? pressed : hit_target(program, press.x, press.y), press);
     });
-    if (shows_scratch_lines(program.main)) update();
+    update_scratch_lines();
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {

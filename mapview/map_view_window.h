@@ -28,6 +28,8 @@ class MapView : public QWidget {
     void end_capture();
     /// Repaints only where the find marker stands.
     void update_find_marker();
+    /// Repaints when lines are shown that follow the pointer.
+    void update_scratch_lines();
 
     const Program& shown_program() const { return program; }
     QPointF origin() const;                // of the map, in pixels of this window

@@ -42,9 +42,11 @@ void UnitTrayView::paintEvent(QPaintEvent* event) {
 
 void UnitTrayView::mousePressEvent(QMouseEvent* event) {
     if (!is_known(event->button())) return;
+    const bool first_button = event->buttons() == event->button();
+    if (first_button) captured = true;
+    if (!captured) return;
     const MapPress press = mouse_press(*event, event->button());
-    captured = true;
-    if (event->buttons() == event->button()) pressed = hit_target(program, press.x, press.y, Container::tray);
+    if (first_button) pressed = hit_target(program, press.x, press.y, Container::tray);
     events.run([&] {
         if (pressed.kind == TargetKind::unit)
             mouse_down(program, pressed, press);
@@ -71,6 +73,7 @@ void UnitTrayView::mouseMoveEvent(QMouseEvent* event) {
             picUnitTray_MouseMove(program, press);
     });
     update();
+    map.update_scratch_lines(); // they follow the pointer over a marker here too
 }
 
 void UnitTrayView::mouseReleaseEvent(QMouseEvent* event) {

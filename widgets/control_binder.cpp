@@ -30,7 +30,8 @@ Control* made(const std::string& caption, ControlBinder::Caption lines, QWidget*
     return new Control(to_qt(caption), parent);
 }
 
-/// A list in which a press on the current row counts like one that makes it current.
+/// A list in which a press on the current row counts like one that makes it current, and which makes none
+/// current only because it gets the keyboard.
 class RowList : public QListView {
   public:
     using QListView::QListView;
@@ -43,6 +44,10 @@ class RowList : public QListView {
         const bool again = before.isValid() && indexAt(event->position().toPoint()) == before;
         QListView::mousePressEvent(event);
         if (again && event->button() == Qt::LeftButton) pressed_again(before);
+    }
+    void focusInEvent(QFocusEvent* event) override {
+        QAbstractScrollArea::focusInEvent(event); // what lies between would choose the first row
+        viewport()->update();
     }
 };
 

@@ -24,6 +24,16 @@
 
 namespace {
 
+/// Whether a widget was painted.
+struct PaintWatch : QObject {
+    explicit PaintWatch(QWidget* widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject* /*widget*/, QEvent* event) override {
+        painted = painted || event->type() == QEvent::Paint;
+        return false;
+    }
+    bool painted = false;
+};
+
 /// The mouse in the real main window, with two units on the map.
 class Mouse : public testing::Test {
   protected:
@@ -55,8 +65,29 @@ class Mouse : public testing::Test {
 
     void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons,
               Qt::KeyboardModifiers keys = {}) const {
-        QMouseEvent event(type, at, map->mapToGlobal(at), button, buttons, keys);
-        QApplication::sendEvent(map, &event);
+        send_to(map, type, at, button, buttons, keys);
+    }
+
+    static void send_to(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
+                        Qt::MouseButtons buttons, Qt::KeyboardModifiers keys = {}) {
+        QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, keys);
+        QApplication::sendEvent(widget, &event);
+    }
+
+    /// The tray with the first unit's marker in its corner.
+    QWidget* open_tray() {
+        desktop.click("cmdUnitTray");
+        main().imgUnit(1).container = Container::tray;
+        main().imgUnit(1).left = main().imgUnit(1).top = 50;
+        return desktop.control("picUnitTray");
+    }
+
+    std::shared_ptr<oUnitForceElements> add_element() const {
+        auto element = std::make_shared<oUnitForceElements>();
+        element->ID = "{" + std::string(36, 'E') + "}";
+        element->Index = 999;
+        first->force_elements->add(element, element->ID);
+        return element;
     }
 
     Desktop desktop;
@@ -136,23 +167,52 @@ TEST_F(Mouse, DropOnAPanelThatLiesOverTheTrayIsNone) {
 }
 
 TEST_F(Mouse, MoveOverAMarkerInTheTrayShowsItsCoordinates) {
-    desktop.click("cmdUnitTray");
-    QWidget* const tray = desktop.control("picUnitTray");
-    main().imgUnit(1).container = Container::tray;
-    main().imgUnit(1).left = main().imgUnit(1).top = 50;
-    QMouseEvent move(QEvent::MouseMove, QPointF(60, 62), tray->mapToGlobal(QPointF(60, 62)), Qt::NoButton,
-                     Qt::NoButton, {});
-    QApplication::sendEvent(tray, &move);
+    send_to(open_tray(), QEvent::MouseMove, QPointF(60, 62), Qt::NoButton, Qt::NoButton);
     EXPECT_EQ(main().unit_grab_x, 10);
     EXPECT_EQ(main().unit_grab_y, 12);
     EXPECT_NE(main().sbarMap.panels[0], "");
 }
 
+TEST_F(Mouse, ScratchLinesAreDrawnAnewWhenThePointerMovesOverAMarkerInTheTray) {
+    QWidget* const tray = open_tray();
+    main().linTempLine = {100, 100, 200, 200, true};
+    QApplication::processEvents();
+    const QImage before = map->grab().toImage();
+    PaintWatch watch(map);
+    send_to(tray, QEvent::MouseMove, QPointF(60, 62), Qt::NoButton, Qt::NoButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(watch.painted);
+    EXPECT_NE(map->grab().toImage(), before);
+}
+
+TEST_F(Mouse, SecondButtonTakesUpNoPressInTheTrayThatAMessageHasEnded) {
+    QWidget* const tray = open_tray();
+    first->children->add(std::make_shared<oChildren>(oChildren{"{gone}", ""}), "{gone}");
+    desktop.with_dialog(
+        [&] { send_to(tray, QEvent::MouseButtonPress, QPointF(60, 62), Qt::LeftButton, Qt::LeftButton); },
+        [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
+    first->children.drop();
+    send_to(tray, QEvent::MouseButtonPress, QPointF(150, 150), Qt::RightButton,
+            Qt::LeftButton | Qt::RightButton);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_FALSE(main().picUnitInfo.visible);
+}
+
+TEST_F(Mouse, ListThatGetsTheKeyboardChoosesNoRow) {
+    const auto element = add_element();
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    auto* const list = desktop.control<QListView>("lstUIfe");
+    QFocusEvent by_tab(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(list, &by_tab);
+    EXPECT_FALSE(list->currentIndex().isValid());
+    EXPECT_EQ(main().lstUIfe.selected, -1);
+    EXPECT_EQ(campaign().curUFE, nullptr);
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(campaign().curUFE, element) << "an arrow key does";
+}
+
 TEST_F(Mouse, AnotherPressOnAnElementRunsItsClickAgain) {
-    auto element = std::make_shared<oUnitForceElements>();
-    element->ID = "{" + std::string(36, 'E') + "}";
-    element->Index = 999;
-    first->force_elements->add(element, element->ID);
+    const auto element = add_element();
     QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
     auto* const list = desktop.control<QListView>("lstUIfe");
     const QPoint row = list->visualRect(list->model()->index(0, 0)).center();
