@@ -159,6 +159,13 @@ std::string selected_row(const ListBox& list) {
     return list.selected < 0 ? "" : list.rows.at(static_cast<std::size_t>(list.selected));
 }
 
+/// Selects the unit alone. The panel comes first, and tells when there is no such unit any more.
+void show_and_select(Program& program, const std::string& id) {
+    clear_selection(program);
+    show_unit_info(program, id);
+    if (const auto unit = program.campaign.colUnits->find(id)) select_unit(program, unit);
+}
+
 } // namespace
 
 void collect_subordinates(const Program& program, const std::string& id, Collection<oChildren>& list) {
@@ -221,16 +228,14 @@ void lstUIchildunits_DblClick(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         const std::string key = subordinate_key(selected_row(program.main.lstUIchildunits));
         if (program.main.lstUIchildunits.selected < 0) return;
-        clear_selection(program);
-        select_alone(program, program.campaign.colUnits->item(key));
+        show_and_select(program, key);
     });
 }
 
 void cmdSelectHQ_Click(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         if (program.main.lblUIparentname.caption.empty() || !program.campaign.curUnit) return;
-        clear_selection(program);
-        select_alone(program, program.campaign.colUnits->item(program.campaign.curUnit->parent_ID));
+        show_and_select(program, std::string(program.campaign.curUnit->parent_ID));
     });
 }
 

@@ -4,6 +4,7 @@
 #include "core/trap.h"
 
 #include <array>
+#include <string_view>
 
 namespace {
 
@@ -23,11 +24,14 @@ void place_bar(Program& program, StateBar& bar, const UnitMarker& marker) {
 }
 
 void show_bar(Program& program, const oUnits& unit) {
+    // Not the tag of deleted markers, which begins with a small letter: what stops here is a unit of this ID.
+    constexpr std::string_view without_bar = "Deleted";
+    const UnitMarker& marker = program.main.imgUnit(unit.img_index);
     StateBar& bar = program.main.shpUnitState.load(unit.img_index);
-    bar.visible = unit.state > 0;
+    bar.visible = unit.state > 0 && marker.tag != without_bar;
     if (!bar.visible) return;
     bar.fill_colour = bar_colour(unit.state);
-    place_bar(program, bar, program.main.imgUnit(unit.img_index));
+    place_bar(program, bar, marker);
 }
 
 } // namespace

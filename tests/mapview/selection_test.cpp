@@ -142,12 +142,30 @@ TEST_F(Selection, BandTakesOnlyMarkersWhollyInside) {
     EXPECT_EQ(selected(), 1U);
     EXPECT_TRUE(main.picUnitInfo.visible);
     EXPECT_FALSE(main.shpRubberband.visible);
-    press(2000, 2000);
-    release(2000, 2000);
-    mouse_down(program, {}, {left_button, 0, 486, 485}); // the map under the marker
-    move(514, 516, left_button);                         // a pixel less
-    release(514, 516);
-    EXPECT_EQ(selected(), 0U);
+    struct Band {
+        double left, top, right, bottom;
+    };
+    // A pixel less at each side.
+    for (const auto& [left, top, right, bottom] :
+         {Band{487, 485, 515, 516}, {486, 486, 515, 516}, {486, 485, 514, 516}, {486, 485, 515, 515}}) {
+        mouse_down(program, {}, {left_button, 0, left, top});
+        move(right, bottom, left_button);
+        release(right, bottom);
+        EXPECT_EQ(selected(), 0U) << left << " " << top << " " << right << " " << bottom;
+    }
+}
+
+TEST_F(Selection, GroupKeepsItsDistancesInTheTray) {
+    main.picUnitTray.width = main.picUnitTray.height = 400;
+    second->ycoord = 560;
+    marker(*second).top += 60;
+    select_both();
+    press_unit(*first, left_button, shift_key);
+    drag_drop(program, DropSite::tray, 100, 120);
+    EXPECT_EQ(marker(*first).container, Container::tray);
+    EXPECT_EQ(marker(*second).container, Container::tray);
+    EXPECT_EQ(marker(*second).left - marker(*first).left, 100);
+    EXPECT_EQ(marker(*second).top - marker(*first).top, 60);
 }
 
 TEST_F(Selection, BandOfSeveralSetsTheMenusAndADeletedMarkerIsNeverTaken) {
@@ -275,6 +293,15 @@ TEST_F(Selection, MoveToTakesTheCoordinateExactlyAndCancelLeavesAll) {
     platform.on_modal["frmEnterCoord"] = [&](Form&) { campaign.gFindX = 700; };
     mnuUP_moveto_Click(program);
     EXPECT_EQ(first->xcoord, 700) << "an earlier Cancel is forgotten";
+}
+
+TEST_F(Selection, UnitWhoseIDIsDeletedHasNoStateBar) {
+    const auto unit = add_marked("Deleted", 700, 500);
+    unit->state = 2;
+    mnuUnitState_Click(program);
+    EXPECT_FALSE(main.shpUnitState(unit->img_index).visible);
+    move_unit_marker(program, unit->img_index, 1000, 1000);
+    EXPECT_FALSE(main.shpUnitState(unit->img_index).visible);
 }
 
 TEST_F(Selection, StateBarsShowGoodToCriticalAndFollowTheMarker) {

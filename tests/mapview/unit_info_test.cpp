@@ -368,6 +368,31 @@ TEST_F(UnitInfo, MarkInANameHidesTheKey) {
     EXPECT_EQ(selected(), 0U) << "the selection is cleared first";
 }
 
+TEST_F(UnitInfo, PanelOfAUnitThatIsGoneShowsNoRowsOfTheOneBefore) {
+    for (const auto select : {lstUIchildunits_DblClick, cmdSelectHQ_Click}) {
+        platform.messages.clear();
+        unit->force_elements.drop();
+        unit->children.drop();
+        add_element(*unit, 2, 4, 'e');
+        add_below(key('a'), *unit);
+        add_unit("{HQ}");
+        unit->parent_ID = "{HQ}";
+        press_unit(*unit);
+        main.lstUIchildunits.selected = main.lstUIfe.selected = 0;
+        lstUIfe_Click(program);
+        ASSERT_TRUE(campaign.curUFE && main.cmdEditFE.enabled);
+        campaign.colUnits->remove(key('a'));
+        campaign.colUnits->remove("{HQ}");
+        select(program);
+        EXPECT_EQ(platform.texts(), Rows{"Error 5 when displaying unit info."});
+        EXPECT_TRUE(main.lstUIchildunits.rows.empty() && main.lstUIfe.rows.empty());
+        EXPECT_FALSE(main.cmdTransferFE.enabled || main.cmdEditFE.enabled || main.cmdDeleteFE.enabled ||
+                     main.cmdSetFirefan.enabled);
+        EXPECT_EQ(campaign.curUFE, nullptr);
+        EXPECT_EQ(selected(), 0U);
+    }
+}
+
 TEST_F(UnitInfo, CheckOfAccumulatedRowsShowsTheUnitAgain) {
     add_element(*add_below("{a}", *unit), 1, 7, 'B');
     show_unit_info(program, "{1}");
