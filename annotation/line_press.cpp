@@ -5,6 +5,7 @@
 #include "annotation/vertices.h"
 #include "core/numbers.h"
 #include "core/trap.h"
+#include "mapview/tool_modes.h"
 
 namespace {
 
@@ -92,7 +93,7 @@ void end_polyline(Program& program) {
 }
 
 /// Runs the body under a trap of its own and ends the press.
-template <class Body> Outcome ends_press(Program& program, const std::string& ending, Body body) {
+template <class Body> Outcome ends_press(Program& program, std::string_view ending, Body body) {
     trap(program, ending, body);
     return Outcome::done;
 }
@@ -212,13 +213,9 @@ Outcome press_draws_line(Program& program, const MapPress& press) {
     if (press.button != left_button) return Outcome::done;
     return ends_press(program, " when drawing lines.", [&] {
         add_line_point(program, press.x, press.y);
-        LineControl& rubber = main.linTempLine;
-        if (main.optSingleLine.value && main.line_ended) {
-            rubber.visible = false;
-            return;
-        }
-        rubber.x1 = rubber.x2 = press.x;
-        rubber.y1 = rubber.y2 = press.y;
-        rubber.visible = true;
+        if (main.optSingleLine.value && main.line_ended)
+            main.linTempLine.visible = false;
+        else
+            start_scratch_line(main.linTempLine, press);
     });
 }

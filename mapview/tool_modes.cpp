@@ -26,6 +26,12 @@ void put_over_unit_info(Program& program, PictureBox& panel) {
     panel.visible = true;
 }
 
+void start_scratch_line(LineControl& line, const MapPress& press) {
+    line.x1 = line.x2 = press.x;
+    line.y1 = line.y2 = press.y;
+    line.visible = true;
+}
+
 void end_line_modes(Program& program) {
     frmMain& main = program.main;
     main.drawing_lines = false;

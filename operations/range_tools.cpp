@@ -32,12 +32,6 @@ void centre(ShapeControl& anchor, const MapPress& press) {
     anchor.visible = true;
 }
 
-void start_rubber(LineControl& rubber, const MapPress& press) {
-    rubber.x1 = rubber.x2 = press.x;
-    rubber.y1 = rubber.y2 = press.y;
-    rubber.visible = true;
-}
-
 void forget_path(Program& program) {
     frmMain& main = program.main;
     main.shpAnchor.resize(1);
@@ -116,7 +110,7 @@ bool range_is_checked(const Program& program) { return program.main.checking_ran
 
 Outcome press_anchors_range(Program& program, const MapPress& press) {
     centre(program.main.shpAnchor[0], press);
-    start_rubber(program.main.linTempLine, press);
+    start_scratch_line(program.main.linTempLine, press);
     return Outcome::goes_on;
 }
 
@@ -134,7 +128,7 @@ Outcome press_adds_path_point(Program& program, const MapPress& press) {
     path->add(std::make_shared<oCoordinates>(oCoordinates{to_long(press.x), to_long(press.y)}));
     main.shpAnchor.resize(path.count());
     centre(main.shpAnchor.back(), press);
-    start_rubber(main.linTempLine, press);
+    start_scratch_line(main.linTempLine, press);
     main.picMap.Refresh();
     return Outcome::goes_on;
 }

@@ -17,9 +17,7 @@ void add_area_point(Program& program, const MapPress& press) {
     oUnits& unit = active_unit(program);
     LineControl& rubber = program.main.linTempLine;
     if (!rubber.visible) unit.area_of_opeartion.drop(); // the first point throws the earlier area away
-    rubber.x1 = rubber.x2 = press.x;
-    rubber.y1 = rubber.y2 = press.y;
-    rubber.visible = true;
+    start_scratch_line(rubber, press);
     unit.area_of_opeartion->add(std::make_shared<oCoordinates>(
         oCoordinates{to_long(press.x - unit.xcoord), to_long(press.y - unit.ycoord)}));
     program.main.picMap.Refresh();

@@ -11,8 +11,7 @@ TEST_F(LineTool, SingleLineIsTwoPresses) {
     press(100, 200);
     EXPECT_EQ(campaign.colLines.count(), 1U);
     EXPECT_FALSE(main.line_ended);
-    EXPECT_TRUE(main.linTempLine.visible);
-    EXPECT_EQ(main.linTempLine.x1, 100);
+    expect_scratch_line_at(100, 200);
     press(300.4, 200);
     EXPECT_TRUE(main.line_ended && main.picMap.marked);
     EXPECT_FALSE(main.linTempLine.visible);
@@ -51,9 +50,12 @@ TEST_F(LineTool, PolylineEndsWithARightPressAndDrawingGoesOn) {
     main.chkArrow.value = true;
     draw();
     press(100, 100);
+    move(150, 150);
     press(200, 100);
+    expect_scratch_line_at(200, 100);
+    move(200, 150);
     press(200, 200);
-    EXPECT_TRUE(main.linTempLine.visible);
+    expect_scratch_line_at(200, 200);
     press(200, 200, right_button);
     EXPECT_EQ(barbs(line(1)), (std::vector<int>{206, 190, 195, 190}));
     EXPECT_TRUE(main.line_ended && main.drawing_lines);
@@ -137,12 +139,15 @@ TEST_F(LineTool, MoveOntoAMarkerRenewsTheArrowheadOnlyForTheLastVertex) {
 }
 
 TEST_F(LineTool, RightPressDropsThePickAndTurnsMovingOff) {
-    add_line({{100, 100}, {200, 100}});
+    add_line({{100, 100}, {200, 100}, {300, 100}});
     cmdMovePoint_Click(program);
-    press(100, 100);
+    press(200, 100);
+    ASSERT_TRUE(main.linTempLine.visible && main.linTempLine2.visible);
     press(400, 400, right_button);
     EXPECT_EQ(main.selected_point, 0);
-    EXPECT_FALSE(main.moving_line_point || main.cmdMovePoint.on() || main.linTempLine.visible);
+    EXPECT_EQ(campaign.curLine, nullptr);
+    EXPECT_FALSE(main.moving_line_point || main.cmdMovePoint.on() || main.linTempLine.visible ||
+                 main.linTempLine2.visible);
 }
 
 TEST_F(LineTool, PickOnALineOfOnePointIsTold) {
@@ -365,6 +370,22 @@ TEST_F(LineTool, PickOutlivesItsMode) {
     cmdExitDrawLine_Click(program);
     EXPECT_EQ(main.selected_point, 2);
     EXPECT_EQ(campaign.curLine, picked);
+    cmdDrawLines_Click(program);
+    cmdMovePoint_Click(program);
+    press(400, 400);
+    EXPECT_EQ(places(*picked), (std::vector<Place>{{100, 100}, {400, 400}})) << "the next press drops it";
+    EXPECT_EQ(main.selected_point, 0);
+}
+
+TEST_F(LineTool, ClosingOverAnOpenArrowMakesNoArrowhead) {
+    optPolyline_Click(program);
+    main.chkArrow.value = true;
+    draw();
+    press(100, 100);
+    press(200, 100);
+    cmdExitDrawLine_Click(program);
+    EXPECT_EQ(barbs(line(1)), (std::vector<int>{0, 0, 0, 0}));
+    EXPECT_NE(campaign.curLine, nullptr) << "until the next line";
 }
 
 TEST_F(LineTool, ArrowOfOnePointEndsAfterItsMessage) {

@@ -14,6 +14,8 @@ TEST_F(LineTool, OpeningPutsThePanelOverTheUnitInfoAndKeepsOtherToolsAway) {
     EXPECT_TRUE(main.picDrawLines.visible && main.cmdDrawLines.on());
     EXPECT_TRUE(main.line_ended) << "by opening";
     EXPECT_EQ(main.picDrawLines.left, 4);
+    EXPECT_EQ(main.picDrawLines.top, 296);
+    EXPECT_EQ(main.picDrawLines.width, 224);
     EXPECT_EQ(main.picDrawLines.height, 300);
     EXPECT_FALSE(main.picUnitInfo.visible || main.placing_shape || main.picPlaceShapes.visible ||
                  main.cmdPlaceShape.on());
@@ -26,18 +28,13 @@ TEST_F(LineTool, FifteenButtonsGoAndComeTogether) {
     disable_all(program);
     disable_all(program);
     Toolbar& tools = main;
-    const std::vector<Button*> all{&tools.cmdDrawLines,      &tools.cmdCreateShapes,  &tools.cmdLabel,
-                                   &tools.cmdCreateUnits,    &tools.cmdDrawPolygon,   &tools.cmdRangecheck,
-                                   &tools.cmdPathRange,      &tools.cmdFindCoord,     &tools.cmdUnitTray,
-                                   &tools.cmdShowFullscreen, &tools.cmdSavemap,       &tools.cmdSnapshot,
-                                   &tools.cmdFireMissions,   &tools.cmdEditGMPlayers, &tools.cmdTownsData};
-    for (const Button* button : all) EXPECT_FALSE(button->enabled);
+    EXPECT_TRUE(enabled_buttons().empty());
     for (const Button* button : {&tools.cmdLoad, &tools.cmdSave, &tools.cmdGrid, &tools.cmdLegend,
                                  &tools.cmdEdgescroll, &tools.cmdSetDateTime})
         EXPECT_TRUE(button->enabled);
     EXPECT_TRUE(main.cmdHierarchy.enabled && main.cmdSelectHQ.enabled && main.cmdUnitWaypoints.enabled);
     enable_all(program);
-    for (const Button* button : all) EXPECT_TRUE(button->enabled);
+    EXPECT_EQ(enabled_buttons(), fenced_buttons());
 }
 
 TEST_F(LineTool, LeavingEndsEveryModeAndDoesNotBringThePanelBack) {

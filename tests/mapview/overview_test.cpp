@@ -36,6 +36,14 @@ TEST_F(Overview, LeftButtonBringsThePlaceToTheMiddle) {
     EXPECT_EQ(values(), At(4368, 5040));
 }
 
+TEST_F(Overview, MapAndViewportBoxFollowThePlace) {
+    picOverviewmap_MouseUp(program, {left_button, 0, 112, 125});
+    EXPECT_EQ(main.picMap.left, -2184);
+    EXPECT_EQ(main.picMap.top, -2520);
+    EXPECT_EQ(main.shpOverviewbox.left, 2184 / 24);
+    EXPECT_EQ(main.shpOverviewbox.top, 2520 / 24 - 3);
+}
+
 TEST_F(Overview, FactorIsOneWholeNumberForBothAxes) {
     main.picMap.width = 6290;
     main.scrlHMap.max = 5300;

@@ -106,6 +106,12 @@ TEST_F(Areas, SelectedAreaNeedsOpenPanelOptionAndNoDrawing) {
     EXPECT_FALSE(selected_area_is_shown(program));
 }
 
+TEST_F(Areas, SelectedAreaOfTwoPointsIsNone) {
+    program.campaign.curUnit = program.campaign.colUnits->item("{2}");
+    draw_selected_aoo(program, painting);
+    EXPECT_TRUE(painting.map.figures().empty());
+}
+
 TEST_F(Areas, BeingDrawnStaysOpen) {
     program.main.drawing_aoo = true;
     EXPECT_FALSE(area_is_being_drawn(program)) << "no rubber line";

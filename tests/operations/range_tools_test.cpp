@@ -1,5 +1,6 @@
 #include "operations/range_tools.h"
 
+#include "mapview/tool_modes.h"
 #include "operations/unit_tools.h"
 #include "tests/support/map_test.h"
 
@@ -8,6 +9,13 @@ namespace {
 class RangeTools : public MapTest {
   protected:
     const std::string& text() const { return program.main.sbarMap.panels[2]; }
+
+    /// Whether the map is painted anew after the step.
+    template <class Step> bool paints(Step step) {
+        main.picMap.marked = false;
+        step();
+        return main.picMap.marked;
+    }
 };
 
 } // namespace
@@ -29,6 +37,24 @@ TEST_F(RangeTools, TwoPointRangeFollowsThePointerUntilARightPress) {
     EXPECT_EQ(text(), "");
     EXPECT_TRUE(main.cmdPathRange.enabled);
     EXPECT_EQ(main.linTempLine.width, 2);
+}
+
+TEST_F(RangeTools, EachFencesOffAllButItsOwnButtonUntilThatIsPressedAgain) {
+    const std::vector<std::pair<void (*)(Program&), Button*>> tools{
+        {cmdRangecheck_Click, &main.cmdRangecheck}, {cmdPathRange_Click, &main.cmdPathRange}};
+    for (const auto& [click, own] : tools) {
+        click(program);
+        EXPECT_TRUE(own->on());
+        EXPECT_EQ(enabled_buttons(), std::vector<Button*>{own});
+        press(200, 200);
+        move(350, 200);
+        EXPECT_EQ(text(), "Range: 1.00 km.");
+        click(program);
+        EXPECT_FALSE(own->on() || main.checking_range || main.checking_path_range ||
+                     main.linTempLine.visible || main.shpAnchor[0].visible);
+        EXPECT_EQ(text(), "");
+        EXPECT_EQ(enabled_buttons(), fenced_buttons());
+    }
 }
 
 TEST_F(RangeTools, DrawingALineShowsNoRange) {
@@ -99,6 +125,55 @@ TEST_F(RangeTools, AreaIsDrawnAroundTheUnitAndReplacesTheOldOneAtTheFirstPoint) 
     press(900, 900, right_button);
     EXPECT_FALSE(main.drawing_aoo || main.linTempLine.visible);
     EXPECT_TRUE(main.aoo_popup_guard && main.cmdDrawLines.enabled);
+}
+
+TEST_F(RangeTools, RubberLineBeginsAtEachPointOfAnArea) {
+    press_unit(*add_marked("{1}", 500, 600));
+    cmdDrawAOO_Click(program);
+    const LineControl& rubber = main.linTempLine;
+    EXPECT_FALSE(rubber.visible);
+    for (const double x : {400, 610}) {
+        press(x, 500);
+        EXPECT_TRUE(rubber.visible);
+        EXPECT_EQ((std::vector<double>{rubber.x1, rubber.y1, rubber.x2, rubber.y2}),
+                  (std::vector<double>{x, 500, x, 500}));
+        move(450, 450);
+        EXPECT_EQ(rubber.x2, 450);
+    }
+}
+
+TEST_F(RangeTools, DrawingAnAreaEndsByItsButtonTooAndGuardsTheNextRightRelease) {
+    press_unit(*add_marked("{1}", 500, 600));
+    enable_all(program);
+    cmdDrawAOO_Click(program);
+    EXPECT_FALSE(main.aoo_popup_guard);
+    EXPECT_TRUE(enabled_buttons().empty());
+    press(400, 500);
+    EXPECT_TRUE(paints([&] { cmdDrawAOO_Click(program); }));
+    EXPECT_FALSE(main.drawing_aoo || main.cmdDrawAOO.on() || main.linTempLine.visible);
+    EXPECT_EQ(enabled_buttons(), fenced_buttons());
+    main.popup_x = main.popup_y = 900;
+    release(800, 800, right_button);
+    EXPECT_EQ(main.scrlHMap.value, 0) << "the map stays";
+    EXPECT_FALSE(main.aoo_popup_guard);
+}
+
+TEST_F(RangeTools, StepsThatChangeWhatIsDrawnPaintTheMapAnew) {
+    press_unit(*add_marked("{1}", 500, 600));
+    cmdDrawAOO_Click(program);
+    EXPECT_TRUE(paints([&] { press(400, 500); }));
+    EXPECT_TRUE(paints([&] { press(400, 500, right_button); }));
+    platform.answers = {Answer::no, Answer::yes};
+    EXPECT_FALSE(paints([&] { cmdDelAOO_Click(program); }));
+    EXPECT_TRUE(paints([&] { cmdDelAOO_Click(program); }));
+    mnuRangeCircles_Click(program);
+    EXPECT_TRUE(paints([&] { press(100, 100); }));
+    EXPECT_TRUE(paints([&] { press(100, 100, right_button); }));
+    EXPECT_TRUE(paints([&] { mnuRangeCircles_Click(program); }));
+    cmdPathRange_Click(program);
+    EXPECT_TRUE(paints([&] { press(100, 100); }));
+    EXPECT_TRUE(paints([&] { press(100, 100, right_button); }));
+    EXPECT_TRUE(paints([&] { cmdPathRange_Click(program); }));
 }
 
 TEST_F(RangeTools, RightPressAsTheFirstLeavesTheOldArea) {

@@ -263,18 +263,24 @@ TEST_F(MapTest, DrawingLinesAndSelectingMissionsKeepARightReleaseFromPanning) {
 }
 
 TEST_F(MapTest, ScratchLinesFollowThePointerWithTheirFreeEnds) {
-    main.linTempLine = {1, 2, 3, 4, true};
-    main.linTempLine2 = {5, 6, 7, 8, true};
-    move(50, 60);
-    EXPECT_EQ(main.linTempLine.x1, 1);
-    EXPECT_EQ(main.linTempLine.x2, 50);
-    EXPECT_EQ(main.linTempLine2.y1, 6);
-    EXPECT_EQ(main.linTempLine2.y2, 60);
-    main.linTempLine.visible = false;
+    const auto ends = [](const LineControl& line) {
+        return std::vector<double>{line.x1, line.y1, line.x2, line.y2};
+    };
+    add_marked("{1}", 500, 500);
     main.lblUser.load(1);
-    mouse_move(program, {TargetKind::label, 1}, {0, 0, 70, 80});
-    EXPECT_EQ(main.linTempLine.x2, 50);
-    EXPECT_EQ(main.linTempLine2.x2, 70);
+    main.lblShapeLabel.load(1);
+    for (const HitTarget target : {HitTarget{}, HitTarget{TargetKind::unit, 1},
+                                   HitTarget{TargetKind::label, 1}, HitTarget{TargetKind::shape_label, 1}}) {
+        main.linTempLine = {1, 2, 3, 4, true};
+        main.linTempLine2 = {5, 6, 7, 8, true};
+        mouse_move(program, target, {0, 0, 50, 60});
+        EXPECT_EQ(ends(main.linTempLine), (std::vector<double>{1, 2, 50, 60}));
+        EXPECT_EQ(ends(main.linTempLine2), (std::vector<double>{5, 6, 50, 60}));
+        main.linTempLine.visible = false;
+        mouse_move(program, target, {0, 0, 70, 80});
+        EXPECT_EQ(ends(main.linTempLine), (std::vector<double>{1, 2, 50, 60})) << "hidden";
+        EXPECT_EQ(ends(main.linTempLine2), (std::vector<double>{5, 6, 70, 80}));
+    }
 }
 
 TEST_F(MapTest, RangeToolsLetALeftPressGoOnToPanelSelectionAndBand) {
@@ -469,14 +475,6 @@ TEST_F(MapTest, FirefanToolFencesNothingOff) {
     EXPECT_TRUE(main.cmdLoad.enabled);
     cmdSetFirefan_Click(program);
     EXPECT_FALSE(main.cmdLabel.enabled);
-}
-
-TEST_F(MapTest, PathRangeLeavesItselfEnabledAndFencesTheOthersOff) {
-    cmdPathRange_Click(program);
-    EXPECT_TRUE(main.cmdPathRange.enabled && main.cmdPathRange.on());
-    for (const Button* other : {&main.cmdRangecheck, &main.cmdDrawLines, &main.cmdCreateUnits, &main.cmdLabel,
-                                &main.cmdDrawPolygon, &main.cmdCreateShapes, &main.cmdFireMissions})
-        EXPECT_FALSE(other->enabled);
 }
 
 TEST_F(MapTest, AreaStaysInPlaceHoweverTheUnitIsMoved) {

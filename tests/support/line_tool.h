@@ -50,5 +50,12 @@ class LineTool : public MapTest {
         for (const Button* button : line_buttons()) EXPECT_TRUE(button->enabled && !button->on());
     }
 
+    void expect_scratch_line_at(double x, double y) const {
+        const LineControl& line = program.main.linTempLine;
+        EXPECT_TRUE(line.visible);
+        EXPECT_EQ(std::pair(line.x1, line.y1), std::pair(x, y));
+        EXPECT_EQ(std::pair(line.x2, line.y2), std::pair(x, y));
+    }
+
     oLines& line(std::size_t position) { return *campaign.colLines->at(position); }
 };

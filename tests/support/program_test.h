@@ -14,6 +14,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 /// A program of its own for each test, on a map of 5376 x 6000 in a window of 998 x 889, and a folder that
 /// goes away afterwards.
@@ -62,6 +63,23 @@ class ProgramTest : public testing::Test {
 
     static void add_child(oUnits& headquarters, const std::string& id) {
         headquarters.children->add(std::make_shared<oChildren>(oChildren{id, "unit " + id}), id);
+    }
+
+    /// Those that `disable_all` disables and `enable_all` enables.
+    std::vector<Button*> fenced_buttons() {
+        Toolbar& tools = program.main;
+        return {&tools.cmdDrawLines,    &tools.cmdCreateShapes,   &tools.cmdLabel,     &tools.cmdCreateUnits,
+                &tools.cmdDrawPolygon,  &tools.cmdRangecheck,     &tools.cmdPathRange, &tools.cmdFindCoord,
+                &tools.cmdUnitTray,     &tools.cmdShowFullscreen, &tools.cmdSavemap,   &tools.cmdSnapshot,
+                &tools.cmdFireMissions, &tools.cmdEditGMPlayers,  &tools.cmdTownsData};
+    }
+
+    /// Those of them that can be pressed.
+    std::vector<Button*> enabled_buttons() {
+        std::vector<Button*> enabled;
+        for (Button* const button : fenced_buttons())
+            if (button->enabled) enabled.push_back(button);
+        return enabled;
     }
 
     /// The number of the failure that the body raises, 0 for none.
