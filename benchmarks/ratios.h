@@ -16,5 +16,5 @@ struct Ratio {
 void report_wrong(const std::string& what);
 
 /// Runs the registered benchmarks, each several times in turn with the others, and prints the ratios of their
-/// medians. Answers 0 when all are within their limits and none went wrong.
+/// medians. Answers 0 when all that were run are within their limits and none went wrong.
 int run_with_ratios(int argc, char** argv, const std::vector<Ratio>& ratios);

@@ -68,13 +68,12 @@ QBrush PainterSurface::fill() {
 }
 
 const PainterSurface::Lettering& PainterSurface::lettering() {
-    const auto [place, is_new] = letterings.try_emplace({pen.FontSize, pen.FontBold});
-    if (is_new) {
-        const QFont font = to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold});
-        const QFontMetrics metrics(font, painter.device());
-        place->second = {font, metrics.ascent(), metrics.height()};
-    }
-    return place->second;
+    const std::pair look{pen.FontSize, pen.FontBold};
+    const auto known = letterings.find(look);
+    if (known != letterings.end()) return known->second;
+    const QFont font = to_qt_font({"MS Sans Serif", static_cast<double>(pen.FontSize), pen.FontBold});
+    const QFontMetrics metrics(font, painter.device());
+    return letterings.emplace(look, Lettering{font, metrics.ascent(), metrics.height()}).first->second;
 }
 
 template <class Draw, class Outline> void PainterSurface::fill_and_outline(Draw draw, Outline outline_path) {

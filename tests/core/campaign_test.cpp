@@ -12,7 +12,7 @@ static_assert(std::is_same_v<decltype(oUnits::xcoord), Counted<std::int16_t, Uni
 static_assert(sizeof(oUnits::xcoord) == 2);
 static_assert(std::is_same_v<decltype(oUnitForceElements::Index), Counted<std::int16_t, HoldingChanges>>);
 static_assert(sizeof(oUnitForceElements::Index) == 2);
-// An entry is settled when it is listed, so that the version of the list tells of every change.
+// An entry does not change through its list, so that the version of the list tells of every change.
 static_assert(std::is_same_v<decltype(Campaign::colForceElements), CollectionRef<const oForceElements>>);
 static_assert(std::is_same_v<decltype(oUnits::img_index), std::int16_t>);
 static_assert(std::is_same_v<decltype(oUnits::state), std::int16_t>);

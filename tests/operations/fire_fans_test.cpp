@@ -61,6 +61,19 @@ class FireFans : public ProgramTest {
         return told(painting.overview);
     }
 
+    Told fans_on_map() const {
+        Told all = told(program.painting.map);
+        std::erase_if(all, [](const std::string& figure) { return figure.starts_with("text"); });
+        return all;
+    }
+
+    /// Makes it the one that gets elements. Its fan on the overview fails.
+    void add_unit_without_dot() {
+        unit = add_unit("{2}");
+        unit->img_index = 2;
+        program.main.imgUnit.load(2).tag = "{2}";
+    }
+
     DrawingList::Figure figure_of_map() {
         painting.map.clear();
         draw_firefans(program, painting);
@@ -212,11 +225,28 @@ TEST_F(FireFans, BrokenFanOfOneUnitLeavesThoseOfTheUnitsBehindIt) {
     EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
 }
 
+TEST_F(FireFans, PiecesInFrontOfOneThatTheCatalogueLacksAreDrawn) {
+    add_element(13);
+    add_element(77);
+    add_element(12);
+    unit->xcoord = 500;
+    unit->ycoord = 600;
+    program.campaign.gDispFirefans = true;
+    program.campaign.curUnit = unit;
+    program.main.picUnitInfo.visible = true;
+    for (const bool of_selected : {false, false, true}) {
+        program.campaign.gDispFirefansSelected = of_selected;
+        platform.messages.clear();
+        picMap_Paint(program);
+        EXPECT_EQ(platform.texts(), Told{"Error 5 when drawing firefans."});
+        EXPECT_EQ(fans_on_map(), Told{"circle 500,600 r300"});
+        EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"});
+    }
+}
+
 TEST_F(FireFans, FailureEndsTheFansOfItsUnitAndOfNoOther) {
     add_element(13);
-    unit = add_unit("{2}");
-    unit->img_index = 2;
-    program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
+    add_unit_without_dot();
     program.campaign.curUFE = add_element(13);
     add_element(12);
     program.campaign.curUnit = unit;
@@ -228,15 +258,12 @@ TEST_F(FireFans, FailureEndsTheFansOfItsUnitAndOfNoOther) {
     picMap_Paint(program);
     EXPECT_EQ(platform.texts(), Told{"Error 340 when drawing firefans."});
     EXPECT_EQ(told(program.painting.overview), Told{"circle 41,82 r12.5"}) << "of the first";
-    const Told all = told(program.painting.map);
-    EXPECT_EQ(Told(all.end() - 2, all.end()), (Told{"circle 0,0 r300", "circle 300,0 r300"}));
+    EXPECT_EQ(fans_on_map(), (Told{"circle 0,0 r300", "circle 300,0 r300"})) << "the first is out of view";
 }
 
 TEST_F(FireFans, NumberOfTheLastUnitThatFailsIsTold) {
     add_element(77);
-    unit = add_unit("{2}");
-    unit->img_index = 2;
-    program.main.imgUnit.load(2).tag = "{2}"; // and has no dot
+    add_unit_without_dot();
     add_element(13);
     picMap_Paint(program);
     EXPECT_EQ(platform.texts(), Told{"Error 340 when drawing firefans."});
