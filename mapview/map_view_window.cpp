@@ -70,7 +70,9 @@ void MapView::paintEvent(QPaintEvent* event) {
 
 bool MapView::is_over_map(QPointF point) const {
     const QRectF map(origin(), QSizeF(program.main.picMap.width, program.main.picMap.height));
-    return (QRectF(inside()) & map).contains(point);
+    const QRectF shown = QRectF(inside()) & map;
+    return shown.left() <= point.x() && point.x() < shown.right() && shown.top() <= point.y() &&
+           point.y() < shown.bottom();
 }
 
 void MapView::mousePressEvent(QMouseEvent* event) {

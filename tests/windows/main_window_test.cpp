@@ -200,6 +200,29 @@ TEST_F(MainWindow, PointerOverTheBorderIsNotOverTheMap) {
     EXPECT_EQ(desktop->control<QLabel>("panel1")->text(), "Eastern: 01.50 - Northern: 40.00");
 }
 
+TEST_F(MainWindow, MapEndsWithItsLastPixel) {
+    QWidget* const map = desktop->control("picMapwindow");
+    const auto is_map = [&](int x, int y) {
+        main().sbarMap.panels[0].clear();
+        QTest::mouseMove(map, {x, y});
+        QTest::qWait(10);
+        return !main().sbarMap.panels[0].empty();
+    };
+    const int right = map->width() - 3; // the border has two
+    const int bottom = map->height() - 3;
+    EXPECT_TRUE(is_map(right, 104));
+    EXPECT_FALSE(is_map(right + 1, 104));
+    EXPECT_TRUE(is_map(104, bottom));
+    EXPECT_FALSE(is_map(104, bottom + 1));
+    const QSizeF whole(main().picMap.width, main().picMap.height);
+    main().picMap.width = main().picMap.height = 300;
+    EXPECT_TRUE(is_map(301, 301));
+    EXPECT_FALSE(is_map(302, 300)) << "ground beside a small map";
+    EXPECT_FALSE(is_map(300, 302));
+    main().picMap.width = whole.width();
+    main().picMap.height = whole.height();
+}
+
 TEST_F(MainWindow, SecondButtonTakesNothingFromTheFirst) {
     QWidget* const map = desktop->control("picMapwindow");
     UnitMarker& marker = main().imgUnit.load(1);
