@@ -86,8 +86,9 @@ void drop_markers(Program& program, Container container, double x, double y) {
     const double a = dragged.left - x;
     const double b = dragged.top - y;
     dragged.container = container;
-    move_unit_marker(program, main.drag_index, x, y);
     const auto& selected = program.campaign.colSelectedUnits;
+    if (selected.empty()) return; // a tool took the press
+    move_unit_marker(program, main.drag_index, x, y);
     if (selected.count() < 2) return;
     for (const auto& unit : selected->items()) {
         if (unit->img_index == main.drag_index) continue;

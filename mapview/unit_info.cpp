@@ -159,13 +159,6 @@ std::string selected_row(const ListBox& list) {
     return list.selected < 0 ? "" : list.rows.at(static_cast<std::size_t>(list.selected));
 }
 
-/// Selects the unit alone. The panel comes first, and tells when there is no such unit any more.
-void show_and_select(Program& program, const std::string& id) {
-    clear_selection(program);
-    show_unit_info(program, id);
-    if (const auto unit = program.campaign.colUnits->find(id)) select_unit(program, unit);
-}
-
 } // namespace
 
 void collect_subordinates(const Program& program, const std::string& id, Collection<oChildren>& list) {
@@ -228,14 +221,14 @@ void lstUIchildunits_DblClick(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         const std::string key = subordinate_key(selected_row(program.main.lstUIchildunits));
         if (program.main.lstUIchildunits.selected < 0) return;
-        show_and_select(program, key);
+        select_alone(program, key);
     });
 }
 
 void cmdSelectHQ_Click(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         if (program.main.lblUIparentname.caption.empty() || !program.campaign.curUnit) return;
-        show_and_select(program, std::string(program.campaign.curUnit->parent_ID));
+        select_alone(program, std::string(program.campaign.curUnit->parent_ID));
     });
 }
 

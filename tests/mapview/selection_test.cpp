@@ -327,11 +327,28 @@ TEST_F(Selection, StateBarsShowGoodToCriticalAndFollowTheMarker) {
 }
 
 TEST_F(Selection, FailureInAPressIsToldAndTheProgramGoesOn) {
+    press_unit(*second);
     marker(*first).tag = "{gone}";
     press_unit(*first);
     EXPECT_EQ(platform.texts(), std::vector<std::string>{"Error 5 when displaying unit info."});
+    main.drag_index = first->img_index;
     drag_drop(program, DropSite::map, 1, 1);
     EXPECT_EQ(platform.texts().back(), "Error 5 when moving a unit.");
+}
+
+TEST_F(Selection, MarkerDraggedWhileAToolTakesThePressStaysWhereItIs) {
+    main.drawing_lines = main.line_ended = true;
+    for (const auto& [site, container] :
+         {std::pair(DropSite::tray, Container::tray), {DropSite::map, Container::map}}) {
+        press_unit(*first, left_button, shift_key);
+        ASSERT_TRUE(main.dragging);
+        ASSERT_EQ(selected(), 0U);
+        main.picMap.marked = false;
+        drag_drop(program, site, 200, 200);
+        EXPECT_EQ(first->xcoord, 500);
+        EXPECT_EQ(marker(*first).container, container);
+        EXPECT_TRUE(main.picMap.marked);
+    }
 }
 
 TEST_F(Selection, TombThatCtrlHasShownIsToldAndTheSelectionStays) {
