@@ -169,7 +169,10 @@ QComboBox* ControlBinder::combo(const std::string& name, const std::string& acce
                      });
     steps.emplace_back([box, &twin] {
         const QSignalBlocker quiet(box);
-        if (box->currentText() != to_qt(twin.text)) box->setCurrentText(to_qt(twin.text));
+        const QString text = to_qt(twin.text);
+        const int row = box->findText(text);
+        if (row >= 0) box->setCurrentIndex(row); // arrow keys go on from here
+        if (box->currentText() != text) box->setCurrentText(text);
         box->setEnabled(twin.enabled);
     });
     return box;
