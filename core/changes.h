@@ -33,12 +33,14 @@ template <class T> struct ListChanges {
     static void add_one() {}
 };
 
-/// A value whose changes are counted: each assignment, but neither how it began nor that it was copied.
+/// A value whose changes are counted: each assignment, but neither how it began nor that it was copied or
+/// moved.
 template <class Value, class Count> class Counted {
   public:
     Counted() = default;
     Counted(Value value) : value(std::move(value)) {}
     Counted(const Counted&) = default;
+    Counted(Counted&&) noexcept = default;
     ~Counted() = default;
 
     Counted& operator=(Value changed) {

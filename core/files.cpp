@@ -55,6 +55,7 @@ std::string component_on_disk(const std::string& directory, const std::string& c
 class Descriptor {
   public:
     explicit Descriptor(int fd) : fd(fd) {}
+    Descriptor(Descriptor&& other) noexcept : fd(std::exchange(other.fd, -1)) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     ~Descriptor() { close(); }
@@ -86,7 +87,7 @@ int output_failure_number(int error) {
 
 class DiskOutput : public OutputFile {
   public:
-    explicit DiskOutput(int fd) : file(fd) { buffer.reserve(block); }
+    explicit DiskOutput(Descriptor opened) : file(std::move(opened)) { buffer.reserve(block); }
 
     /// Records before the one that failed are in the file.
     ~DiskOutput() override {
@@ -230,14 +231,11 @@ std::vector<std::string> files::list(const std::string& directory, const std::st
 std::unique_ptr<OutputFile> files::open_for_output(const std::string& path) {
     // Without waiting: a pipe in the place of a file, with nobody at its other end, would hold the program
     // up.
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666);
-    if (fd < 0) throw Failure{output_failure_number(errno)};
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666));
+    if (file.get() < 0) throw Failure{output_failure_number(errno)};
     struct stat status {};
-    if (::fstat(fd, &status) == 0 && S_ISFIFO(status.st_mode)) {
-        ::close(fd);
-        throw Failure{failure::path_access};
-    }
-    return std::make_unique<DiskOutput>(fd);
+    if (::fstat(file.get(), &status) == 0 && S_ISFIFO(status.st_mode)) throw Failure{failure::path_access};
+    return std::make_unique<DiskOutput>(std::move(file));
 }
 
 std::string Platform::shown_path(const std::string& path) { return files::from_disk_name(path); }

@@ -20,7 +20,7 @@ void ask_for_font(Program& program, const oLabels& label, LabelFontChoice& choic
     choice.font_name = program.campaign.gDefaultFont;
     choice.font_size = default_size;
     // Cancel leaves the default font, so that every label ends with a font that works.
-    static_cast<void>(failure_of([&] {
+    const int number = failure_of([&] {
         FontDialog dialog;
         dialog.font.name = program.campaign.gDefaultFont;
         dialog.font.size = label.font_size >= 1 ? label.font_size : default_size;
@@ -28,7 +28,8 @@ void ask_for_font(Program& program, const oLabels& label, LabelFontChoice& choic
         const std::int16_t size = to_int16(font.size);
         choice.font_name = font.name;
         choice.font_size = size;
-    }));
+    });
+    if (number != 0 && number != failure::cancelled) throw Failure{number};
 }
 
 } // namespace

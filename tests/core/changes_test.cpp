@@ -1,9 +1,11 @@
 #include "core/changes.h"
 
 #include "core/failure.h"
+#include "core/map_controls.h"
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -12,6 +14,9 @@ using Number = Counted<int, Changes<struct NumberKind>>;
 using NumberChanges = Changes<struct NumberKind>;
 
 } // namespace
+
+// Else a growing array of controls would copy their texts.
+static_assert(std::is_nothrow_move_constructible_v<UnitMarker>);
 
 TEST(Changes, EachAssignmentCountsAndNoCopy) {
     Number number = 3;

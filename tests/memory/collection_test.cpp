@@ -2,6 +2,9 @@
 
 #include "tests/memory/scarce_memory.h"
 
+#include <algorithm>
+#include <array>
+#include <memory>
 #include <numeric>
 #include <string>
 #include <vector>
@@ -67,16 +70,43 @@ TEST(CollectionInScarceMemory, AnAdditionIsWholeOrNotThere) {
         });
 }
 
-TEST(CollectionInScarceMemory, AnInsertionIsWholeOrNotThere) {
-    for (const int count : {1, 8, 16, 32})
+TEST(CollectionInScarceMemory, AnAdditionBehindGapsIsWholeOrNotThere) {
+    for (const int count : {8, 9, 10, 16, 17, 18, 32})
         try_with_scarce_memory([&](auto scarcely) {
             Numbered numbered(count);
-            const auto inserted = std::make_shared<Record>(Record{-1});
-            const int number = scarcely([&] { numbered.records.insert_after(0, inserted); });
+            for (const int gone : {0, 5}) numbered.records.remove(key_of(gone));
+            const int number = scarcely([&] { numbered.add(count); });
+            std::vector<int> numbers = up_to(number == 0 ? count + 1 : count);
+            std::erase_if(numbers, [](int one) { return one == 0 || one == 5; });
+            numbered.expect(numbers, count + 1);
+        });
+}
+
+TEST(CollectionInScarceMemory, AnAdditionWithoutKeyIsWholeOrNotThere) {
+    for (const int count : {0, 1, 8, 16, 32})
+        try_with_scarce_memory([&](auto scarcely) {
+            Numbered numbered(count);
+            const auto added = std::make_shared<Record>(Record{-1});
+            const int number = scarcely([&] { numbered.records.add(added); });
             std::vector<int> numbers = up_to(count);
-            if (number == 0) numbers.insert(numbers.begin(), -1);
+            if (number == 0) numbers.push_back(-1);
             numbered.expect(numbers, count);
         });
+}
+
+TEST(CollectionInScarceMemory, AnInsertionIsWholeOrNotThere) {
+    for (const int count : {1, 8, 16, 32})
+        for (const int position : {0, count / 2, count})
+            try_with_scarce_memory([&](auto scarcely) {
+                Numbered numbered(count);
+                const auto inserted = std::make_shared<Record>(Record{-1});
+                const int number = scarcely(
+                    [&] { numbered.records.insert_after(static_cast<std::size_t>(position), inserted); });
+                EXPECT_TRUE(number == 0 || number == failure::out_of_memory);
+                std::vector<int> numbers = up_to(count);
+                if (number == 0) numbers.insert(numbers.begin() + position, -1);
+                numbered.expect(numbers, count);
+            });
 }
 
 TEST(CollectionInScarceMemory, RemovalsAndWalksNeedNone) {

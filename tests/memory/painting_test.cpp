@@ -3,6 +3,10 @@
 #include "tests/support/figures.h"
 #include "tests/support/map_test.h"
 
+#include <memory>
+#include <string>
+#include <vector>
+
 namespace {
 
 using Told = std::vector<std::string>;

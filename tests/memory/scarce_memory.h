@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 /// Lets the allocation behind so many further ones fail, and only that one.
 void let_allocation_fail(long good_ones_before);
 /// Lets allocations be again. Answers whether one has failed.
