@@ -7,6 +7,8 @@
 #include "core/trap.h"
 #include "mapview/tool_modes.h"
 
+#include <string_view>
+
 namespace {
 
 struct Pick {

@@ -1,8 +1,11 @@
 #include "mapview/draw_units.h"
 
+#include "core/failure.h"
 #include "core/unit_place.h"
 
+#include <cstddef>
 #include <unordered_set>
+#include <vector>
 
 namespace {
 
@@ -21,7 +24,7 @@ void draw_subordinate_links(const Program& program, Surface& map, const oUnits& 
 }
 
 /// The unit of each marker, nothing where the tag leads to none: good, with its pointers, until the list of
-/// units, a tag or the number of markers changes. Each paint goes over all of them twice.
+/// units, a tag or the number of markers changes. Each layer of names goes over all of them.
 const std::vector<const oUnits*>& units_of_markers(Program& program) {
     const Campaign& campaign = program.campaign;
     const ControlArray<UnitMarker>& markers = program.main.imgUnit;

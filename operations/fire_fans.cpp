@@ -120,7 +120,8 @@ const std::vector<UnitFans>& units_with_fans(Program& program) {
 }
 
 /// Runs `draw`. Fans that can't be drawn leave those of other units and the rest of the picture alone; the
-/// paint tells of them at its end. Only when there is too little memory to look them up, none are drawn.
+/// paint tells of them at its end. Only too little memory to look them up leaves out all that the layer was
+/// to draw.
 template <class Draw> void try_fans(Painting& painting, Draw draw) {
     const int number = failure_of(draw);
     if (number != 0) painting.firefan_failure = number;

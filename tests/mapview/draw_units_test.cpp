@@ -124,15 +124,20 @@ TEST_F(UnitDrawing, NamesFollowUnitsMarkersAndTags) {
         return told(painting.map);
     };
     add_unit("{1}");
-    EXPECT_EQ(drawn(), Told{});
-    add_marker("{1}", 100, 200);
-    EXPECT_EQ(drawn(), Told{"text 100,231 unit {1}"});
     add_unit("{2}")->name = "second";
-    program.main.imgUnit(1).tag = "{2}";
+    EXPECT_EQ(drawn(), Told{});
+    UnitMarker& marker = add_marker("{1}", 100, 200);
+    EXPECT_EQ(drawn(), Told{"text 100,231 unit {1}"});
+    marker.tag = "{2}";
     EXPECT_EQ(drawn(), Told{"text 100,231 second"});
-    program.campaign.colUnits->remove("{2}");
+    const Tag of_another(std::string("{1}"));
+    marker.tag = of_another;
+    EXPECT_EQ(drawn(), Told{"text 100,231 unit {1}"});
+    program.campaign.colUnits->remove("{1}");
     EXPECT_EQ(number_of(drawn), 5);
-    program.main.imgUnit(1).tag = deleted_tag;
+    marker.tag = "{2}";
+    EXPECT_EQ(drawn(), Told{"text 100,231 second"});
+    marker.tag = deleted_tag;
     EXPECT_EQ(drawn(), Told{});
 }
 

@@ -166,12 +166,13 @@ TEST_F(RangeTools, StepsThatChangeWhatIsDrawnPaintTheMapAnew) {
     platform.answers = {Answer::no, Answer::yes};
     EXPECT_FALSE(paints([&] { cmdDelAOO_Click(program); }));
     EXPECT_TRUE(paints([&] { cmdDelAOO_Click(program); }));
+    const MapPress left{left_button, 0, 100, 100};
     mnuRangeCircles_Click(program);
-    EXPECT_TRUE(paints([&] { press(100, 100); }));
+    EXPECT_TRUE(paints([&] { press_sets_circles(program, left); }));
     EXPECT_TRUE(paints([&] { press(100, 100, right_button); }));
     EXPECT_TRUE(paints([&] { mnuRangeCircles_Click(program); }));
     cmdPathRange_Click(program);
-    EXPECT_TRUE(paints([&] { press(100, 100); }));
+    EXPECT_TRUE(paints([&] { press_adds_path_point(program, left); }));
     EXPECT_TRUE(paints([&] { press(100, 100, right_button); }));
     EXPECT_TRUE(paints([&] { cmdPathRange_Click(program); }));
 }
