@@ -77,7 +77,7 @@ bool MapView::is_over_map(QPointF point) const {
 
 void MapView::mousePressEvent(QMouseEvent* event) {
     if (!is_known(event->button())) return;
-    const bool first_button = event->buttons() == event->button();
+    const bool first_button = is_first(*event);
     if (first_button) captured = is_over_map(event->position());
     if (!captured) return;
     const MapPress press = mouse_press(*event, event->button(), origin());

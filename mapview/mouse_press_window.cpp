@@ -1,8 +1,14 @@
 #include "mapview/mouse_press_window.h"
 
-bool is_known(Qt::MouseButton button) {
-    return button == Qt::LeftButton || button == Qt::RightButton || button == Qt::MiddleButton;
-}
+namespace {
+
+constexpr Qt::MouseButtons known_buttons = Qt::LeftButton | Qt::RightButton | Qt::MiddleButton;
+
+} // namespace
+
+bool is_known(Qt::MouseButton button) { return known_buttons.testFlag(button); }
+
+bool is_first(const QMouseEvent& event) { return (event.buttons() & known_buttons) == event.button(); }
 
 MapPress mouse_press(const QMouseEvent& event, Qt::MouseButtons buttons, QPointF origin) {
     MapPress press;

@@ -22,6 +22,7 @@ void cmdUnitTray_Click(Program& program) {
 
 void cmdUTClose_Click(Program& program) {
     program.main.picUnitTray.visible = false;
+    program.main.shpTrayRubberband.visible = false; // the release of its press is lost
     program.main.cmdUnitTray.show_on(false);
 }
 

@@ -22,6 +22,11 @@ void UnitTrayView::bring_in_step() {
     update();
 }
 
+void UnitTrayView::hideEvent(QHideEvent* event) {
+    SidePanel::hideEvent(event);
+    end_capture();
+}
+
 void UnitTrayView::resizeEvent(QResizeEvent* event) {
     constexpr int margin = 4;
     SidePanel::resizeEvent(event);
@@ -42,7 +47,7 @@ void UnitTrayView::paintEvent(QPaintEvent* event) {
 
 void UnitTrayView::mousePressEvent(QMouseEvent* event) {
     if (!is_known(event->button())) return;
-    const bool first_button = event->buttons() == event->button();
+    const bool first_button = is_first(*event);
     if (first_button) captured = true;
     if (!captured) return;
     const MapPress press = mouse_press(*event, event->button());
