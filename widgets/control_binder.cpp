@@ -30,8 +30,8 @@ Control* made(const std::string& caption, ControlBinder::Caption lines, QWidget*
     return new Control(to_qt(caption), parent);
 }
 
-/// A list in which a press on the current row counts like one that makes it current, and which makes none
-/// current only because it gets the keyboard.
+/// A list of rows of which the left button and the keyboard choose one. A press on the current row counts
+/// like one that makes it current; getting the keyboard makes none current.
 class RowList : public QListView {
   public:
     using QListView::QListView;
@@ -40,14 +40,26 @@ class RowList : public QListView {
 
   protected:
     void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::LeftButton) return;
         const QModelIndex before = currentIndex();
         const bool again = before.isValid() && indexAt(event->position().toPoint()) == before;
         QListView::mousePressEvent(event);
-        if (again && event->button() == Qt::LeftButton) pressed_again(before);
+        if (again) pressed_again(before);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) QListView::mouseReleaseEvent(event);
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) QListView::mouseDoubleClickEvent(event);
     }
     void focusInEvent(QFocusEvent* event) override {
         QAbstractScrollArea::focusInEvent(event); // what lies between would choose the first row
         viewport()->update();
+    }
+    /// With Ctrl, too: the current row is the one that is shown chosen.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* /*event*/) const override {
+        return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
     }
 };
 
