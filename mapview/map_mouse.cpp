@@ -81,7 +81,8 @@ void imgUnit_MouseDown(Program& program, int index, const MapPress& press) {
         show_unit_info(program, program.main.imgUnit(index).tag); // which tells that there is none
         return;
     }
-    if (selected.count() < 2) select_alone(program, program.main.imgUnit(index).tag);
+    if (selected.count() < 2)
+        select_alone(program, program.campaign.colUnits->item(program.main.imgUnit(index).tag));
     if (press.button == right_button) program.platform.popup_menu(mnuUnitPopup);
 }
 

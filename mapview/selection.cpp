@@ -52,10 +52,10 @@ void select_unit(Program& program, const std::shared_ptr<oUnits>& unit) {
     set_border(program, *unit, 1);
 }
 
-void select_alone(Program& program, const std::string& id) {
+void select_alone(Program& program, const std::shared_ptr<oUnits>& unit) {
     clear_selection(program);
-    if (const auto unit = program.campaign.colUnits->find(id)) select_unit(program, unit);
-    show_unit_info(program, id);
+    select_unit(program, unit);
+    show_unit_info(program, unit->ID);
 }
 
 void toggle_selection(Program& program, int index) {

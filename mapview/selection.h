@@ -12,7 +12,7 @@ void hide_unit_info(Program& program);
 void select_unit(Program& program, const std::shared_ptr<oUnits>& unit);
 
 /// Makes the unit the only selected one and shows its panel.
-void select_alone(Program& program, const std::string& id);
+void select_alone(Program& program, const std::shared_ptr<oUnits>& unit);
 
 /// Enables the menu entries for one unit or those for a group.
 void set_menus_by_count(Program& program);

@@ -124,17 +124,22 @@ void show_subordinates(Program& program, const oUnits& unit, Subordinates& list)
             subordinate_row(*program.campaign.colUnits->item(entry->ID), std::stoi(entry->name)));
 }
 
-void show_accumulated(Program& program, const oUnits& unit, const Subordinates& list) {
+/// Supplies of a unit and its subordinates.
+struct Supplies {
+    std::int64_t required;
+    std::int64_t current;
+};
+
+Supplies show_accumulated(Program& program, const oUnits& unit, const Subordinates& list) {
     UnitInfoPanel& panel = program.main;
     Losses losses;
     losses.add(unit);
-    std::int64_t supply_req = unit.supply_req;
-    std::int64_t current_supply = unit.current_supply;
+    Supplies supplies{unit.supply_req, unit.current_supply};
     Accumulated accumulated;
     for (const auto& entry : list) {
         const oUnits& subordinate = *program.campaign.colUnits->item(entry->ID);
-        supply_req += subordinate.supply_req;
-        current_supply += subordinate.current_supply;
+        supplies.required += subordinate.supply_req;
+        supplies.current += subordinate.current_supply;
         losses.add(subordinate);
         if (subordinate.force_elements.empty()) continue;
         for (const auto& element : subordinate.force_elements) accumulated.add(*element);
@@ -144,8 +149,7 @@ void show_accumulated(Program& program, const oUnits& unit, const Subordinates& 
             panel.lstUIfe.rows.push_back(element_row(program, *entry));
     panel.lblUIAccMIA.caption = std::to_string(losses.missing);
     panel.lblUIAccKIA.caption = std::to_string(losses.killed);
-    panel.lblUIAccSupplyReq.caption = std::to_string(supply_req);
-    panel.lblUIAccCurrSupply.caption = std::to_string(current_supply);
+    return supplies;
 }
 
 void show_place(Program& program, const oUnits& unit) {
@@ -157,6 +161,13 @@ void show_place(Program& program, const oUnits& unit) {
 /// The selected row, empty when none is.
 std::string selected_row(const ListBox& list) {
     return list.selected < 0 ? "" : list.rows.at(static_cast<std::size_t>(list.selected));
+}
+
+/// Selects the unit alone, the panel first: it tells when the unit is gone.
+void show_and_select(Program& program, const std::string& id) {
+    clear_selection(program);
+    show_unit_info(program, id);
+    if (const auto unit = program.campaign.colUnits->find(id)) select_unit(program, unit);
 }
 
 } // namespace
@@ -174,10 +185,12 @@ void show_unit_info(Program& program, const std::string& id) {
         Subordinates subordinates;
         show_subordinates(program, *unit, subordinates);
         show_own_elements(program, *unit);
-        show_accumulated(program, *unit, subordinates);
+        const Supplies supplies = show_accumulated(program, *unit, subordinates);
         main.picUnitState.back_colour = state_colour(unit->state);
         show_place(program, *unit);
         program.campaign.curUnit = unit;
+        main.lblUIAccSupplyReq.caption = std::to_string(supplies.required);
+        main.lblUIAccCurrSupply.caption = std::to_string(supplies.current);
         main.lblUIUnitStatus.caption = unit->order_id;
         main.picUnitInfo.visible = true;
         for (Button* button : {&main.cmdEditWaypt, &main.cmdMoveWaypt, &main.cmdClearWaypt})
@@ -221,14 +234,14 @@ void lstUIchildunits_DblClick(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         const std::string key = subordinate_key(selected_row(program.main.lstUIchildunits));
         if (program.main.lstUIchildunits.selected < 0) return;
-        select_alone(program, key);
+        show_and_select(program, key);
     });
 }
 
 void cmdSelectHQ_Click(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         if (program.main.lblUIparentname.caption.empty() || !program.campaign.curUnit) return;
-        select_alone(program, std::string(program.campaign.curUnit->parent_ID));
+        show_and_select(program, std::string(program.campaign.curUnit->parent_ID));
     });
 }
 

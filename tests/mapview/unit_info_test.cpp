@@ -169,6 +169,33 @@ TEST_F(UnitInfo, WaypointButtonsNeedWaypoints) {
     unit->waypoints->add(std::make_shared<oWaypoint>(), "{W}");
     show_unit_info(program, "{1}");
     EXPECT_TRUE(main.cmdEditWaypt.enabled && main.cmdMoveWaypt.enabled && main.cmdClearWaypt.enabled);
+    add_marked("{without}", 10, 10);
+    show_unit_info(program, "{without}");
+    EXPECT_FALSE(main.cmdEditWaypt.enabled || main.cmdMoveWaypt.enabled || main.cmdClearWaypt.enabled);
+}
+
+TEST_F(UnitInfo, ElementThatIsGoneIsTold) {
+    add_element(*unit, 1, 5, 'A');
+    show_unit_info(program, "{1}");
+    unit->force_elements.drop();
+    main.lstUIfe.selected = 0;
+    lstUIfe_Click(program);
+    EXPECT_EQ(platform.texts(), Rows{"Error 5 when displaying unit info."});
+}
+
+TEST_F(UnitInfo, PlaceBeyondTheGridKeepsTheSuppliesOfTheUnitBefore) {
+    const auto before = add_marked("{before}", 10, 10);
+    before->supply_req = 70;
+    before->current_supply = 60;
+    show_unit_info(program, "{before}");
+    add_element(*unit, 1, 5, 'A', 3, 4);
+    unit->ycoord = 32767;
+    show_unit_info(program, "{1}");
+    EXPECT_EQ(platform.texts(), Rows{"Error 6 when displaying unit info."});
+    EXPECT_EQ(main.lblUIAccMIA.caption, "3");
+    EXPECT_EQ(main.lblUIAccSupplyReq.caption, "70");
+    EXPECT_EQ(main.lblUIAccCurrSupply.caption, "60");
+    EXPECT_EQ(campaign.curUnit, before);
 }
 
 TEST_F(UnitInfo, ClickOnAnElementTakesItInHand) {
@@ -212,10 +239,29 @@ TEST_F(UnitInfo, SubordinateAndHqCanBeSelectedWithoutScrolling) {
     EXPECT_EQ(marker(*below).border_style, 1);
     EXPECT_EQ(selected(), 1U);
     EXPECT_EQ(main.scrlHMap.value, 0);
+    unit->xcoord = 3000;
+    unit->ycoord = 4000;
     cmdSelectHQ_Click(program);
     EXPECT_EQ(campaign.curUnit, unit);
+    EXPECT_EQ(main.scrlHMap.value, 0);
+    EXPECT_EQ(main.scrlVMap.value, 0);
     cmdSelectHQ_Click(program);
     EXPECT_EQ(campaign.curUnit, unit) << "it has none";
+}
+
+TEST_F(UnitInfo, SelectionFromThePanelShowsThePanelFirst) {
+    const auto below = add_below(key('a'), *unit);
+    add_child(*below, "{gone}");
+    press_unit(*unit);
+    main.lstUIchildunits.rows = {"below ###" + key('a')};
+    main.lstUIchildunits.selected = 0;
+    std::size_t selected_by_then = 9;
+    platform.on_message = [&](const MessageBox&) { selected_by_then = selected(); };
+    lstUIchildunits_DblClick(program);
+    EXPECT_EQ(platform.texts().back(), "Error 5 when displaying unit info.");
+    EXPECT_EQ(selected_by_then, 0U);
+    EXPECT_EQ(selected(), 1U);
+    EXPECT_EQ(marker(*below).border_style, 1);
 }
 
 TEST_F(UnitInfo, LocatingCentresSelectsAndShows) {
