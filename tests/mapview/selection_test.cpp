@@ -246,8 +246,12 @@ TEST_F(Selection, GroupKeepsItsShapeThroughADrop) {
 
 TEST_F(Selection, DropOnTheOverviewIsALongMove) {
     press_unit(*first, left_button, shift_key);
-    drag_over(program, DropSite::overview, 50, 60);
+    main.picMap.height = 12000;
+    drag_over(program, DropSite::overview, 50, 30);
     EXPECT_EQ(main.lblUIeastcoord.caption, "08.00");
+    EXPECT_EQ(main.lblUInorthcoord.caption, "31.08");
+    EXPECT_EQ(main.sbarMap.panels[0], "Eastern: 08.00 - Northern: 31.08");
+    main.picMap.height = 6000;
     drag_drop(program, DropSite::overview, 50, 60);
     EXPECT_EQ(marker(*first).left, 1200 - 14);
     EXPECT_EQ(marker(*first).top, 1440 - 15);

@@ -1,9 +1,8 @@
-#include "tests/windows/desktop.h"
+#include "tests/windows/mouse.h"
 
 #include "core/identity.h"
 #include "mapview/map_accessible_window.h"
 #include "mapview/unit_info.h"
-#include "mapview/unit_marker.h"
 
 #include <QAccessible>
 #include <QCloseEvent>
@@ -32,68 +31,6 @@ struct PaintWatch : QObject {
         return false;
     }
     bool painted = false;
-};
-
-/// The mouse in the real main window, with two units on the map.
-class Mouse : public testing::Test {
-  protected:
-    Mouse() {
-        desktop.start();
-        first = add_unit("{1}", 300);
-        second = add_unit("{2}", 500);
-        main().picMap.Refresh();
-        map = desktop.control("picMapwindow");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return map->width() > 700 && map->height() > 500; }));
-    }
-
-    frmMain& main() { return desktop.program.main; }
-    Campaign& campaign() { return desktop.program.campaign; }
-
-    std::shared_ptr<oUnits> add_unit(const std::string& id, std::int16_t x) {
-        auto unit = std::make_shared<oUnits>();
-        unit->ID = id;
-        unit->symbol = "\\data\\forces\\allied forces\\Rifle Company.gif";
-        unit->xcoord = x;
-        unit->ycoord = 300;
-        campaign().colUnits->add(unit, id);
-        unit->img_index = campaign().gNextUnitIndex;
-        make_unit_marker(desktop.program, *unit);
-        return unit;
-    }
-
-    static QPoint over(const oUnits& unit) { return {unit.xcoord + 2, unit.ycoord + 2}; }
-
-    void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons,
-              Qt::KeyboardModifiers keys = {}) const {
-        send_to(map, type, at, button, buttons, keys);
-    }
-
-    static void send_to(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
-                        Qt::MouseButtons buttons, Qt::KeyboardModifiers keys = {}) {
-        QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, keys);
-        QApplication::sendEvent(widget, &event);
-    }
-
-    /// The tray with the first unit's marker in its corner.
-    QWidget* open_tray() {
-        desktop.click("cmdUnitTray");
-        main().imgUnit(1).container = Container::tray;
-        main().imgUnit(1).left = main().imgUnit(1).top = 50;
-        return desktop.control("picUnitTray");
-    }
-
-    std::shared_ptr<oUnitForceElements> add_element() const {
-        auto element = std::make_shared<oUnitForceElements>();
-        element->ID = "{" + std::string(36, 'E') + "}";
-        element->Index = 999;
-        first->force_elements->add(element, element->ID);
-        return element;
-    }
-
-    Desktop desktop;
-    QWidget* map = nullptr;
-    std::shared_ptr<oUnits> first;
-    std::shared_ptr<oUnits> second;
 };
 
 } // namespace
@@ -140,6 +77,18 @@ TEST_F(Mouse, ButtonsBesideTheThreeAreNotTheRules) {
     ASSERT_TRUE(main().picUnitInfo.visible);
     QTest::mouseClick(map, Qt::BackButton, {}, QPoint(650, 450));
     EXPECT_TRUE(main().picUnitInfo.visible);
+}
+
+TEST_F(Mouse, PressWithAnotherOfTheOtherButtonsDownGoesToWhatIsUnderThePointer) {
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    const QPointF ground(650, 450);
+    send(QEvent::MouseButtonPress, ground, Qt::LeftButton, Qt::LeftButton | Qt::BackButton);
+    EXPECT_FALSE(main().picUnitInfo.visible);
+    EXPECT_TRUE(main().shpRubberband.visible);
+    send(QEvent::MouseButtonRelease, ground, Qt::LeftButton, Qt::BackButton);
+    QWidget* const tray = open_tray();
+    send_to(tray, QEvent::MouseButtonPress, QPointF(60, 62), Qt::LeftButton, Qt::LeftButton | Qt::BackButton);
+    EXPECT_TRUE(main().picUnitInfo.visible) << "of the marker in the tray";
 }
 
 TEST_F(Mouse, KeysScrollWhileThePointerRestsOnTheMenuBar) {
@@ -220,6 +169,22 @@ TEST_F(Mouse, AnotherPressOnAnElementRunsItsClickAgain) {
     campaign().curUFE = nullptr;
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
     EXPECT_EQ(campaign().curUFE, element);
+}
+
+TEST_F(Mouse, RowInHandStaysHighlightedWithCtrlAndOtherButtonsChooseNone) {
+    const auto element = add_element();
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    auto* const list = desktop.control<QListView>("lstUIfe");
+    const QPoint row = list->visualRect(list->model()->index(0, 0)).center();
+    for (const auto button : {Qt::RightButton, Qt::BackButton}) {
+        QTest::mouseClick(list->viewport(), button, {}, row);
+        send_to(list->viewport(), QEvent::MouseButtonDblClick, row, button, button);
+        EXPECT_EQ(campaign().curUFE, nullptr);
+    }
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row);
+    EXPECT_EQ(campaign().curUFE, element);
+    EXPECT_TRUE(list->selectionModel()->isRowSelected(0, {}));
 }
 
 TEST_F(Mouse, ArrowKeysGoOnFromTheBoundarySizeThatIsShown) {
