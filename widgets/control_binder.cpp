@@ -53,8 +53,10 @@ class RowList : public QListView {
         if (event->button() == Qt::LeftButton) QListView::mouseDoubleClickEvent(event);
     }
     void focusInEvent(QFocusEvent* event) override {
-        QAbstractScrollArea::focusInEvent(event); // what lies between would choose the first row
-        viewport()->update();
+        const bool has_current = currentIndex().isValid();
+        const QSignalBlocker quiet(selectionModel());
+        QListView::focusInEvent(event); // makes the first row current if none is
+        if (!has_current) selectionModel()->clearCurrentIndex();
     }
     /// With Ctrl, too: the current row is the one that is shown chosen.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
