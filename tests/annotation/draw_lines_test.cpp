@@ -63,6 +63,16 @@ TEST_F(Drawing, SegmentsHaveTheLinesPenWhateverTheLineOptionSays) {
     EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 77 fill 0 style 1 dash 4 width 4 mode 13");
 }
 
+TEST_F(Drawing, SolidLineBehindADashedOneIsSolidAndKeepsTheMode) {
+    add_line({{1, 2}, {3, 4}})->linestyle = 3;
+    add_line({{1, 2}, {3, 4}});
+    painting.map.pen.DrawMode = 9;
+    draw_lines(program, painting);
+    EXPECT_EQ(painting.map.figures()[0].pen.DrawStyle, 2);
+    EXPECT_EQ(painting.map.figures()[1].pen.DrawStyle, 0);
+    for (const auto& figure : painting.map.figures()) EXPECT_EQ(figure.pen.DrawMode, 9);
+}
+
 TEST_F(Drawing, StylesThatNobodyCanChooseAreSolid) {
     for (const int style : {0, -1, 6, 1}) {
         add_line({{1, 2}, {3, 4}})->linestyle = static_cast<std::int16_t>(style);
@@ -120,6 +130,19 @@ TEST_F(Drawing, ArrowOnABoundaryEndsWhereThePlainLineBeforeItEnds) {
     boundary->is_arrow = true;
     draw_lines(program, painting);
     EXPECT_EQ(told(painting.map).back(), "line 0,0 30,40");
+}
+
+TEST_F(Drawing, ArrowOnABoundaryWithoutAPlainLineBeforeItEndsAtTheMapsCorner) {
+    add_line({{30, 40}}); // of one point: no line
+    const auto boundary = add_line({{50, 50}, {100, 50}});
+    boundary->is_boundry = true;
+    boundary->is_arrow = true;
+    draw_lines(program, painting);
+    EXPECT_EQ(told(painting.map).back(), "line 0,0 0,0");
+    boundary->arrow2_x = 7;
+    painting.map.clear();
+    draw_lines(program, painting);
+    EXPECT_EQ(told(painting.map).back(), "line 7,0 0,0");
 }
 
 TEST_F(Drawing, OverviewLinesArePlainThinAndScaledByTheWidths) {
@@ -189,6 +212,26 @@ TEST_F(Drawing, PolygonHasItsPenAndItsNoteAboutTheMiddle) {
     EXPECT_EQ(painting.map.figures()[1].pen.ForeColor, 33);
 }
 
+TEST_F(Drawing, PolygonLeavesItsModeAndItsPen) {
+    add_polygon({{0, 0}, {100, 0}, {100, 50}});
+    draw_polygons(program, painting);
+    EXPECT_EQ(told(painting.map.pen), "fore 11 fill 22 style 0 dash 0 width 3 mode 9");
+}
+
+TEST_F(Drawing, PolygonHasTheDashesAndLettersOfTheLayersBefore) {
+    add_polygon({{100, 200}, {200, 200}, {200, 260}})->notes = "ab";
+    painting.map.pen.DrawStyle = 2;
+    painting.map.pen.FontSize = 10;
+    painting.map.pen.FontBold = true;
+    draw_polygons(program, painting);
+    EXPECT_EQ(told(painting.map), (Told{"polygon 100,200 200,200 200,260", "text 145,225 ab"}));
+    for (const auto& figure : painting.map.figures()) {
+        EXPECT_EQ(figure.pen.DrawStyle, 2);
+        EXPECT_EQ(figure.pen.FontSize, 10);
+        EXPECT_TRUE(figure.pen.FontBold);
+    }
+}
+
 TEST_F(Drawing, OpaquePolygonCopies) {
     add_polygon({{0, 0}, {100, 0}, {100, 50}})->drawmode = 13;
     add_polygon({{0, 0}, {100, 0}, {100, 50}})->drawmode = 0;
@@ -204,6 +247,8 @@ TEST_F(Drawing, PolygonsAreGatedByTheirOption) {
 }
 
 TEST_F(Drawing, PolygonInHandShowsItsSidesFromTheSecondPointOn) {
+    program.main.drawing_polygon = true;
+    EXPECT_FALSE(polygon_is_being_drawn(program)) << "before its first point there is none";
     program.campaign.curPolygon = std::make_shared<oPolygons>();
     program.main.drawing_polygon = true;
     program.main.picPolygonBordercolor.back_colour = 44;

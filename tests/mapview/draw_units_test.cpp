@@ -93,10 +93,13 @@ TEST_F(UnitDrawing, NamesStandUnderAndBesideVisibleMarkers) {
     add_marker("{1}", 100, 200);
     add_marker("{2}", 300, 200).visible = false;
     add_marker(deleted_tag, 400, 200);
-    painting.map.pen.FontSize = 10; // of range circles
-    draw_unit_names(program, painting);
-    painting.map.pen.FontSize = 10;
-    draw_unit_hq_names(program, painting);
+    for (const auto draw : {draw_unit_names, draw_unit_hq_names}) {
+        painting.map.pen.FontSize = 10; // of range circles
+        painting.map.pen.ForeColor = 0xC00000;
+        draw(program, painting);
+        EXPECT_EQ(painting.map.pen.ForeColor, 0);
+    }
+    for (const auto& figure : painting.map.figures()) EXPECT_EQ(figure.pen.ForeColor, 0);
     EXPECT_EQ(painting.map.figures()[1].pen.FontSize, 8);
     EXPECT_EQ(told(painting.map), (Told{"text 100,231 unit {1}", "text 130,200 the HQ"}));
     EXPECT_EQ(painting.map.figures()[0].pen.FontSize, 8);

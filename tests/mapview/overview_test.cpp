@@ -101,3 +101,9 @@ TEST_F(Overview, GroupDroppedOnTheOverviewKeepsItsShape) {
     drag_drop(program, DropSite::overview, 50, 60);
     EXPECT_EQ(second->xcoord - campaign.colUnits->item("{1}")->xcoord, 100);
 }
+
+TEST_F(Overview, DotsAreThreePixelsWideAndFourHigh) {
+    add_marked("{1}", 100, 100);
+    EXPECT_EQ(main.shpUnit(1).width, 3);
+    EXPECT_EQ(main.shpUnit(1).height, 4);
+}

@@ -140,8 +140,10 @@ TEST_F(MapPainting, GridButtonTogglesAndRefreshes) {
     EXPECT_TRUE(program.campaign.gShowGrid);
     EXPECT_TRUE(program.main.cmdGrid.on());
     EXPECT_TRUE(program.main.picMap.marked);
+    program.main.picMap.marked = false;
     cmdGrid_Click(program);
     EXPECT_FALSE(program.campaign.gShowGrid);
+    EXPECT_TRUE(program.main.picMap.marked);
     picMap_Paint(program);
     EXPECT_TRUE(program.painting.map.figures().empty());
 }
@@ -164,6 +166,23 @@ TEST_F(MapPainting, RulersCountEastwardsAndNorthwards) {
     EXPECT_EQ(north[0].pen.ForeColor, 0xC00000);
     EXPECT_EQ(north[0].pen.FontSize, 10);
     EXPECT_TRUE(north[0].pen.FontBold);
+}
+
+TEST_F(MapPainting, GridTakesTheModeOfTheLayersBefore) {
+    Painting painting;
+    painting.map.pen.DrawMode = 9;
+    draw_grid(program, painting);
+    ASSERT_FALSE(painting.map.figures().empty());
+    EXPECT_EQ(painting.map.figures()[0].pen.DrawMode, 9);
+}
+
+TEST_F(MapPainting, UpperRulerShowsTheLastTwoDigits) {
+    map_size(1200, 1050);
+    program.campaign.gMapEast0 = 98;
+    picMap_Paint(program);
+    const std::vector<std::string> east = texts(program.painting.hcoord);
+    EXPECT_EQ(std::vector<std::string>(east.begin(), east.begin() + 3),
+              (std::vector<std::string>{"99", "00", "01"}));
 }
 
 TEST_F(MapPainting, GridAndUpperRulerRoundTheSizeToo) {

@@ -77,9 +77,18 @@ TEST_F(Selection, LeftPressOnEmptyMapTakesASingleUnitOffAndNothingElse) {
     EXPECT_EQ(selected(), 0U);
     EXPECT_FALSE(main.picUnitInfo.visible);
     EXPECT_EQ(campaign.curUnit, first) << "it stays the active one";
+}
+
+TEST_F(Selection, LeftOrMiddlePressWithAGroupDoesNothing) {
     select_both();
-    press(2000, 2000);
-    EXPECT_EQ(selected(), 2U);
+    main.drawing_lines = main.line_ended = true;
+    for (const int button : {left_button, 4}) {
+        press(2000, 2000, button);
+        EXPECT_FALSE(main.shpRubberband.visible);
+        release(2000, 2000, button);
+        EXPECT_EQ(selected(), 2U);
+        EXPECT_TRUE(campaign.colLines.empty()) << "no tool acts behind it";
+    }
 }
 
 TEST_F(Selection, MiddlePressClosesThePanelOnlyAndRightPressNeither) {
@@ -101,6 +110,13 @@ TEST_F(Selection, RightPressTakesAGroupOffWithoutAPan) {
     EXPECT_EQ(main.scrlHMap.value, 0);
 }
 
+TEST_F(Selection, OnlyTheLeftButtonDragsWithShift) {
+    for (const int button : {right_button, 4}) {
+        press_unit(*first, button, shift_key);
+        EXPECT_FALSE(main.dragging);
+    }
+}
+
 TEST_F(Selection, RightPressOnAMarkerSelectsItAndOpensThePopup) {
     press_unit(*first, right_button);
     EXPECT_EQ(selected(), 1U);
@@ -112,9 +128,13 @@ TEST_F(Selection, ClearingRepaintsOnlyWhileNamesAreShown) {
     main.picMap.marked = false;
     clear_selection(program);
     EXPECT_FALSE(main.picMap.marked);
-    campaign.gDispUnitHQNames = true;
-    clear_selection(program);
-    EXPECT_TRUE(main.picMap.marked);
+    for (bool* names : {&campaign.gDispUnitHQNames, &campaign.gDispUnitNames}) {
+        main.picMap.marked = false;
+        *names = true;
+        clear_selection(program);
+        EXPECT_TRUE(main.picMap.marked);
+        *names = false;
+    }
 }
 
 TEST_F(Selection, ClosingThePanelEndsWhatHangsOnIt) {
@@ -141,6 +161,7 @@ TEST_F(Selection, BandTakesOnlyMarkersWhollyInside) {
     release(515, 516);
     EXPECT_EQ(selected(), 1U);
     EXPECT_TRUE(main.picUnitInfo.visible);
+    EXPECT_EQ(campaign.curUnit, first) << "and not the last there is";
     EXPECT_FALSE(main.shpRubberband.visible);
     struct Band {
         double left, top, right, bottom;
@@ -261,8 +282,8 @@ TEST_F(Selection, DragTellsWhereTheCentreWouldLand) {
     press_unit(*first, left_button, shift_key);
     drag_over(program, DropSite::map, 224.5, 101.5);
     EXPECT_EQ(main.lblUIeastcoord.caption, "01.50");
-    EXPECT_EQ(main.sbarMap.panels[0],
-              "Eastern: " + main.lblUIeastcoord.caption + " - Northern: " + main.lblUInorthcoord.caption);
+    EXPECT_EQ(main.lblUInorthcoord.caption, "40.00");
+    EXPECT_EQ(main.sbarMap.panels[0], "Eastern: 01.50 - Northern: 40.00");
 }
 
 TEST_F(Selection, AreaStaysInPlaceOnlyIfWanted) {
@@ -297,6 +318,12 @@ TEST_F(Selection, MoveToTakesTheCoordinateExactlyAndCancelLeavesAll) {
     platform.on_modal["frmEnterCoord"] = [&](Form&) { campaign.gFindX = 700; };
     mnuUP_moveto_Click(program);
     EXPECT_EQ(first->xcoord, 700) << "an earlier Cancel is forgotten";
+}
+
+TEST_F(Selection, MovedUnitGetsNoStateBarWhileTheyAreOff) {
+    first->state = 2;
+    move_unit_marker(program, 1, 1000, 1000);
+    EXPECT_FALSE(main.shpUnitState.has(1));
 }
 
 TEST_F(Selection, UnitWhoseIDIsDeletedHasNoStateBar) {
@@ -456,6 +483,8 @@ TEST_F(Selection, EachBandBeginsWithNoSize) {
     clear_selection(program);
     press(400, 400);
     EXPECT_EQ(main.shpRubberband.width + main.shpRubberband.height, 0);
+    EXPECT_EQ(main.shpRubberband.left, 400);
+    EXPECT_EQ(main.shpRubberband.top, 400);
     release(400, 400);
     EXPECT_EQ(selected(), 0U);
 }

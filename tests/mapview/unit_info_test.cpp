@@ -307,8 +307,10 @@ TEST_F(UnitInfo, ShowingAUnitEmptiesTheListOfSubordinates) {
 TEST_F(UnitInfo, ChainOfCommandButtonToggles) {
     cmdHierarchy_Click(program);
     EXPECT_TRUE(main.hierarchy_on && main.cmdHierarchy.on() && main.picMap.marked);
+    main.picMap.marked = false;
     cmdHierarchy_Click(program);
     EXPECT_FALSE(main.hierarchy_on || main.cmdHierarchy.on());
+    EXPECT_TRUE(main.picMap.marked);
 }
 
 TEST_F(UnitInfo, QuantitiesBelowZeroGetNoughtsByValue) {

@@ -106,6 +106,16 @@ TEST_F(Areas, SelectedAreaNeedsOpenPanelOptionAndNoDrawing) {
     EXPECT_FALSE(selected_area_is_shown(program));
 }
 
+TEST_F(Areas, SelectedOneHasThePenOfAllAndTheDashesOfTheLayersBefore) {
+    for (const auto draw : {draw_selected_aoo, draw_all_aoo}) {
+        painting.map.clear();
+        painting.map.pen = {.ForeColor = 0xFF0000, .FillStyle = 1, .DrawStyle = 2, .DrawWidth = 5};
+        draw(program, painting);
+        ASSERT_EQ(painting.map.figures().size(), 1U);
+        EXPECT_EQ(told(painting.map.figures()[0].pen), "fore 0 fill 77 style 0 dash 2 width 1 mode 9");
+    }
+}
+
 TEST_F(Areas, SelectedAreaOfTwoPointsIsNone) {
     program.campaign.curUnit = program.campaign.colUnits->item("{2}");
     draw_selected_aoo(program, painting);

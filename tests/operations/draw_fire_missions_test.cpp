@@ -60,6 +60,14 @@ TEST_F(FireMissions, NumberedTargetsAndAirTasksHaveNoPattern) {
     EXPECT_EQ(pen_of(0), "fore 16711680 fill 12582912 style 0 dash 0 width 1 mode 13");
 }
 
+TEST_F(FireMissions, CrossIsThinWhateverThePenBeforeItAndHasItsDashes) {
+    painting.map.pen.DrawWidth = 2; // of zones
+    painting.map.pen.DrawStyle = 2;
+    drawn(0, 3);
+    EXPECT_EQ(pen_of(0), "fore 32768 fill 65280 style 0 dash 2 width 2 mode 13");
+    EXPECT_EQ(pen_of(1), "fore 32768 fill 65280 style 0 dash 2 width 1 mode 13");
+}
+
 TEST_F(FireMissions, EachLeavesThePenTransparentAndThin) {
     drawn(0, 0, 4, 400);
     EXPECT_EQ(told(painting.map.pen), "fore 0 fill 0 style 1 dash 0 width 1 mode 13");

@@ -94,6 +94,7 @@ TEST_F(Waypoints, OfAllUnitsSetCopyModeEvenWhenThereAreNone) {
 TEST_F(Waypoints, OfTheSelectedUnitInheritTheDrawMode) {
     program.campaign.gDispWayptAll = false;
     program.campaign.gDispWayptSelected = true;
+    program.campaign.colUnits->item("{2}")->waypoints->add(std::make_shared<oWaypoint>(), "{W}");
     painting.map.pen.DrawMode = 9;
     draw_waypoints(program, painting);
     EXPECT_TRUE(painting.map.figures().empty()) << "the panel is not open";
@@ -148,4 +149,31 @@ TEST_F(Waypoints, OfNobodyAreShownWithBothChoicesOff) {
     program.campaign.gDispWayptAll = program.campaign.gDispWayptSelected = false;
     draw_waypoints(program, painting);
     EXPECT_TRUE(painting.map.empty());
+}
+
+TEST_F(Waypoints, TextsHaveRangeAndSpeedWithTheirFractions) {
+    unit->waypoints.drop();
+    for (const auto& [range, speed] : {std::pair(1350, 4.5), {995, 0.5}}) {
+        add_waypoint(300, 100);
+        // In their list waypoints do not change.
+        auto changed = std::make_shared<oWaypoint>(*unit->waypoints->at(1));
+        changed->range = static_cast<std::int16_t>(range);
+        changed->speed = speed;
+        unit->waypoints.drop();
+        unit->waypoints->add(changed, "{W}");
+        draw_waypoints(program, painting);
+    }
+    const Told all = told(painting.map);
+    EXPECT_THAT(all, testing::Contains("text 240,120 1.35 Km, at 4.5 Km/H"));
+    EXPECT_THAT(all, testing::Contains("text 240,120 1.00 Km, at 0.5 Km/H"));
+}
+
+TEST_F(Waypoints, DashesAndSizeOfLettersAreThoseOfTheLayersBefore) {
+    painting.map.pen.DrawStyle = 2;
+    painting.map.pen.FontSize = 10;
+    draw_waypoints(program, painting);
+    for (const auto& figure : painting.map.figures()) {
+        EXPECT_EQ(figure.pen.DrawStyle, 2);
+        EXPECT_EQ(figure.pen.FontSize, 10);
+    }
 }

@@ -157,6 +157,30 @@ TEST_F(FireFans, ActiveUnitIsRedAndItsElementInHandGreenAlsoOnTheOverview) {
     EXPECT_EQ(painting.map.figures()[1].pen.FillColor, 0xFF00);
     ASSERT_EQ(told(painting.overview), Told{"circle 41,82 r12.5"});
     EXPECT_EQ(told(painting.overview.figures()[0].pen), "fore 0 fill 65280 style 0 dash 0 width 1 mode 9");
+    painting.overview.clear();
+    program.campaign.gDispOmFirefans = false;
+    draw_firefans(program, painting);
+    EXPECT_EQ(told(painting.overview), Told{"circle 41,82 r12.5"}) << "whatever the overview's own option";
+}
+
+TEST_F(FireFans, OnTheMapHaveWidthAndModeOfTheLayersBefore) {
+    add_element(13);
+    painting.map.pen.DrawWidth = 4;
+    for (const int mode : {9, 13}) {
+        painting.map.pen.DrawMode = mode;
+        EXPECT_EQ(figure_of_map().pen.DrawWidth, 4);
+        EXPECT_EQ(figure_of_map().pen.DrawMode, mode);
+    }
+}
+
+TEST_F(FireFans, LieUnderTheLinesOfTheOverviewWhichTakeTheirMode) {
+    add_element(13);
+    auto line = std::make_shared<oLines>();
+    for (const int x : {0, 240}) line->colCoords->add(std::make_shared<oCoordinates>(oCoordinates{x, 0}));
+    program.campaign.colLines->add(line);
+    program.main.mnuOVPU_showlines.checked = true;
+    EXPECT_EQ(on_overview(), (Told{"circle 41,82 r12.5", "line 0,0 10,0"}));
+    EXPECT_EQ(painting.overview.figures()[1].pen.DrawMode, 9);
 }
 
 TEST_F(FireFans, OfTheSelectedUnitOnlyWithItsPanelOpen) {

@@ -84,6 +84,19 @@ TEST(ZoneRadiiOfUnits, BitsOfTheWordsPlacesDecideWhatIsHeavy) {
     EXPECT_EQ(radii_of("Platoon", "mortar Platoon", "Line unit", "Deployed"), light);
 }
 
+TEST(ZoneRadiiOfUnits, EachWordOfTheTypeCounts) {
+    const ZoneRadii heavy{150, 100};
+    const ZoneRadii light{50, 10};
+    for (const char* word :
+         {"Rocket", "Howitzer", "Cannon", "Artillery", "Mortar", "Flak", "AA", "IG", "ATG", "AT"})
+        EXPECT_EQ(radii_of("Team", word, "Line unit", "Deployed"), heavy) << word;
+    for (const std::string word :
+         {"Observation", "Leader", "Command", "Signal", "Column", "Obstacle", "Armor"})
+        EXPECT_EQ(radii_of("Team", "AT  " + word, "Line unit", "Deployed"), light) << word;
+    EXPECT_EQ(radii_of("Team", "AT  Rifle", "Line unit", "Deployed"), heavy);
+    EXPECT_EQ(radii_of("Team", "Rifle", "Line unit", "Deployed"), light);
+}
+
 TEST(ZoneRadiiOfUnits, PixelsRoundHalvesToEven) {
     const std::vector<std::pair<int, int>> rows{{10, 15},   {25, 38},   {50, 75},   {75, 112},
                                                 {100, 150}, {125, 188}, {150, 225}, {200, 300}};
@@ -111,6 +124,7 @@ TEST_F(SecurityZones, HatchedZonesDifferInStyle) {
 TEST_F(SecurityZones, OfTheSelectedUnitOnlyWhileItsPanelIsOpen) {
     program.campaign.gDispUSZSelected = true;
     program.campaign.curUnit = program.campaign.colUnits->item("{1}");
+    program.campaign.colUnits->item("{2}")->echelon = "Battalion"; // which has zones, too
     draw_security_zones(program, painting);
     EXPECT_TRUE(painting.map.figures().empty());
     program.main.picUnitInfo.visible = true;

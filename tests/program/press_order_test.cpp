@@ -233,8 +233,11 @@ TEST_F(MapTest, AbortingATransferAsks) {
     EXPECT_EQ(platform.texts(), std::vector<std::string>{"Abort transfering force element?"});
     EXPECT_TRUE(main.transferring_fe);
     platform.answers = {Answer::yes};
+    main.picUnitInfo.visible = true;
     press(2000, 2000);
     EXPECT_FALSE(main.transferring_fe);
+    EXPECT_TRUE(main.picUnitInfo.visible) << "the press ends there";
+    EXPECT_FALSE(main.shpRubberband.visible);
 }
 
 TEST_F(MapTest, RightPressIsStoredWhicheverRowActs) {
@@ -327,6 +330,23 @@ TEST_F(MapTest, RightPressWithAGroupTakesOnlyThatOff) {
     EXPECT_TRUE(main.checking_range);
 }
 
+TEST_F(MapTest, RangeToolsLetARightPressGoOnToTheGroupAndAMiddleOneToThePanel) {
+    const auto first = add_marked("{1}", 500, 500);
+    const auto second = add_marked("{2}", 600, 500);
+    for (bool* tool : {&main.checking_path_range, &main.showing_range_circles}) {
+        *tool = true;
+        press_unit(*first);
+        press(2000, 2000, 4);
+        EXPECT_FALSE(main.picUnitInfo.visible);
+        press_unit(*first);
+        press_unit(*second, left_button, ctrl_key);
+        press(2000, 2000, right_button);
+        EXPECT_EQ(selected(), 0U);
+        EXPECT_TRUE(main.map_popup_shown);
+        *tool = main.map_popup_shown = false;
+    }
+}
+
 TEST_F(MapTest, ToolsActAtTheMapPointOfAMarker) {
     const auto unit = add_marked("{1}", 500, 500);
     main.checking_range = true;
@@ -396,6 +416,22 @@ TEST_F(LabelDrag, ShiftDragMovesALabelByWhereItWasGrabbed) {
     EXPECT_EQ(campaign.colLabels->at(1)->ycoord, 800);
     EXPECT_TRUE(main.picMap.marked);
     EXPECT_FALSE(main.dragging);
+}
+
+TEST_F(LabelDrag, TellsWhereTheCentreWouldLand) {
+    for (const double place : {100, 400}) { // the label, then the caption
+        press(place + 10, place + 5, left_button, shift_key);
+        drag_over(program, DropSite::map, 225 + 10 - 60 / 2, 102 + 5 - 20 / 2);
+        EXPECT_EQ(main.sbarMap.panels[0], "Eastern: 01.50 - Northern: 40.00");
+        main.dragging = false;
+    }
+}
+
+TEST_F(LabelDrag, OnlyTheLeftButtonDragsWithShift) {
+    for (const int button : {right_button, 4}) {
+        press(110, 105, button, shift_key);
+        EXPECT_FALSE(main.dragging);
+    }
 }
 
 TEST_F(LabelDrag, CaptionTakesItsShapeAlong) {
