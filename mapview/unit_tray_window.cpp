@@ -1,6 +1,7 @@
 #include "mapview/unit_tray_window.h"
 
 #include "mapview/map_controls_window.h"
+#include "mapview/map_mouse.h"
 #include "mapview/mouse_press_window.h"
 #include "mapview/unit_tray.h"
 #include "widgets/text.h"
@@ -24,6 +25,7 @@ void UnitTrayView::bring_in_step() {
 
 void UnitTrayView::hideEvent(QHideEvent* event) {
     SidePanel::hideEvent(event);
+    if (captured) end_press(program); // neither moves nor the release will come
     end_capture();
 }
 

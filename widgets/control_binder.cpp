@@ -60,8 +60,9 @@ class RowList : public QListView {
     }
     /// With Ctrl, too: the current row is the one that is shown chosen.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
-                                                         const QEvent* /*event*/) const override {
-        return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+                                                         const QEvent* event) const override {
+        const bool beside_the_rows = event != nullptr && !index.isValid();
+        return beside_the_rows ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect;
     }
 };
 
@@ -185,7 +186,7 @@ QComboBox* ControlBinder::combo(const std::string& name, const std::string& acce
         const QSignalBlocker quiet(box);
         const QString text = to_qt(twin.text);
         const int row = box->findText(text);
-        if (row >= 0) box->setCurrentIndex(row); // arrow keys go on from here
+        if (row >= 0) box->setCurrentIndex(row); // arrow keys go on from the row last shown
         if (box->currentText() != text) box->setCurrentText(text);
         box->setEnabled(twin.enabled);
     });

@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 

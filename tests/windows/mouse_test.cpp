@@ -187,6 +187,18 @@ TEST_F(Mouse, RowInHandStaysHighlightedWithCtrlAndOtherButtonsChooseNone) {
     EXPECT_TRUE(list->selectionModel()->isRowSelected(0, {}));
 }
 
+TEST_F(Mouse, RowIsHighlightedNoMoreWhenTheUnitIsShownAnew) {
+    add_element();
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    auto* const list = desktop.control<QListView>("lstUIfe");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualRect(list->model()->index(0, 0)).center());
+    ASSERT_TRUE(list->selectionModel()->isRowSelected(0, {}));
+    QTest::mouseClick(map, Qt::LeftButton, {}, over(*first));
+    EXPECT_EQ(main().lstUIfe.selected, -1);
+    EXPECT_FALSE(list->selectionModel()->hasSelection());
+}
+
 TEST_F(Mouse, ArrowKeysGoOnFromTheBoundarySizeThatIsShown) {
     desktop.click("cmdDrawLines");
     desktop.click("chkBoundry");

@@ -1,4 +1,4 @@
-#include "mapview/frmDisplay.h"
+#include "mapview/selection.h"
 #include "tests/windows/mouse.h"
 
 #include <QCheckBox>
@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QRadioButton>
 
+#include <memory>
 #include <utility>
 
 // What the mouse does in tray, overview, unit info panel and display options.
@@ -44,13 +45,25 @@ TEST_F(Panels, MarkerIsDraggedOutOfTheTray) {
 
 TEST_F(Panels, TrayHiddenDuringAPressTakesNoMoreOfIt) {
     QWidget* const tray = open_tray();
-    send_to(tray, QEvent::MouseButtonPress, {40, 40}, Qt::LeftButton, Qt::LeftButton);
+    send_to(tray, QEvent::MouseButtonPress, {140, 40}, Qt::LeftButton, Qt::LeftButton);
     QTest::keyClick(desktop.control("cmdUTClose"), Qt::Key_Space);
     ASSERT_FALSE(tray->isVisible());
+    for (const auto& unit : {first, second}) select_unit(desktop.program, unit);
     desktop.click("cmdUnitTray");
-    send_to(tray, QEvent::MouseMove, {90, 100}, Qt::NoButton, Qt::LeftButton);
-    send_to(tray, QEvent::MouseButtonRelease, {90, 100}, Qt::LeftButton, Qt::NoButton);
-    EXPECT_TRUE(campaign().colSelectedUnits.empty());
+    send_to(tray, QEvent::MouseButtonPress, {140, 40}, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    EXPECT_EQ(campaign().colSelectedUnits.count(), 2U);
+}
+
+TEST_F(Panels, TrayHiddenDuringADragEndsIt) {
+    QWidget* const tray = open_tray();
+    send_to(tray, QEvent::MouseButtonPress, {60, 62}, Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+    ASSERT_TRUE(main().dragging);
+    QTest::keyClick(desktop.control("cmdUTClose"), Qt::Key_Space);
+    EXPECT_FALSE(main().dragging);
+    send(QEvent::MouseButtonPress, {400, 400}, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, {400, 400}, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(main().imgUnit(1).container, Container::tray);
+    EXPECT_FALSE(main().shpRubberband.visible);
 }
 
 TEST_F(Panels, OverviewHasItsPopupItsReferenceAndTakesTheMapAlong) {
