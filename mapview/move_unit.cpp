@@ -87,7 +87,7 @@ void drop_markers(Program& program, Container container, double x, double y) {
     const double b = dragged.top - y;
     dragged.container = container;
     const auto& selected = program.campaign.colSelectedUnits;
-    if (selected.empty()) return; // a tool took the press
+    if (selected.empty()) return; // a tool took the press: the marker keeps its place
     move_unit_marker(program, main.drag_index, x, y);
     if (selected.count() < 2) return;
     for (const auto& unit : selected->items()) {

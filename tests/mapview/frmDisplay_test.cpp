@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cstring>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace {

@@ -3,7 +3,9 @@
 #include "mapview/frmDisplay.h"
 #include "tests/support/map_test.h"
 
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 

@@ -367,7 +367,7 @@ TEST_F(Selection, FailureInAPressIsToldAndTheProgramGoesOn) {
     EXPECT_EQ(platform.texts().back(), "Error 5 when moving a unit.");
 }
 
-TEST_F(Selection, MarkerDraggedWhileAToolTakesThePressStaysWhereItIs) {
+TEST_F(Selection, MarkerDraggedWhileAToolTakesThePressKeepsItsPlace) {
     main.drawing_lines = main.line_ended = true;
     for (const auto& [site, container] :
          {std::pair(DropSite::tray, Container::tray), {DropSite::map, Container::map}}) {

@@ -3,6 +3,9 @@
 #include "annotation/line_panel.h"
 #include "tests/support/map_test.h"
 
+#include <string>
+#include <vector>
+
 namespace {
 
 class UnitTray : public MapTest {
