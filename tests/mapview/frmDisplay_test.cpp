@@ -15,7 +15,7 @@ using DisplayForm = MapTest;
 
 } // namespace
 
-TEST_F(DisplayForm, DisplayFormStartsAsTheOptionsDo) {
+TEST_F(DisplayForm, StartsAsTheOptionsDo) {
     auto& form = program.form<frmDisplay>();
     platform.on_modal["frmDisplay"] = [](Form& shown) { static_cast<frmDisplay&>(shown).cmdOK_Click(); };
     const DisplayOptions before = campaign;
@@ -24,7 +24,7 @@ TEST_F(DisplayForm, DisplayFormStartsAsTheOptionsDo) {
     EXPECT_EQ(form.heading, "Set display options");
 }
 
-TEST_F(DisplayForm, DisplayFormAppliesEveryBoxAndShowsOrHidesTheMarkers) {
+TEST_F(DisplayForm, AppliesEveryBoxAndShowsOrHidesTheMarkers) {
     const auto unit = add_marked("{1}", 100, 100);
     const auto deleted = add_marked("{2}", 100, 100);
     marker(*deleted).tag = deleted_tag;
@@ -50,7 +50,7 @@ TEST_F(DisplayForm, DisplayFormAppliesEveryBoxAndShowsOrHidesTheMarkers) {
     EXPECT_FALSE(campaign.gDispUSZSelected || campaign.gDispAooSelected);
 }
 
-TEST_F(DisplayForm, DisplayFormKeepsItsBoxesButTheOneOfTheUnits) {
+TEST_F(DisplayForm, KeepsItsBoxesButTheOneOfTheUnits) {
     auto& form = program.form<frmDisplay>();
     form.chkMmLines.value = false;
     campaign.gDispUnits = false;
@@ -65,15 +65,23 @@ TEST_F(DisplayForm, DisplayFormKeepsItsBoxesButTheOneOfTheUnits) {
 
 TEST_F(DisplayForm, ChecksEnableTheirOptions) {
     auto& form = program.form<frmDisplay>();
-    form.chkShowAOO.value = form.chkShowWaypoints.value = false;
-    form.chkShowAOO_Click();
-    form.chkShowWaypoints_Click();
-    EXPECT_FALSE(form.optAOO[0].enabled || form.optAOO[1].enabled || form.optWaypt[1].enabled ||
-                 form.chkWayptData.enabled);
-    form.chkShowFirefans.value = form.chkUnitsecurityzone.value = true;
-    form.chkShowFirefans_Click();
-    form.chkUnitsecurityzone_Click();
-    EXPECT_TRUE(form.optFirefans[0].enabled && form.optUSZ[1].enabled);
+    struct Group {
+        CheckBox* check;
+        void (frmDisplay::*click)();
+        const std::array<OptionButton, 2>* options;
+    };
+    const std::vector<Group> groups{
+        {&form.chkShowAOO, &frmDisplay::chkShowAOO_Click, &form.optAOO},
+        {&form.chkShowWaypoints, &frmDisplay::chkShowWaypoints_Click, &form.optWaypt},
+        {&form.chkShowFirefans, &frmDisplay::chkShowFirefans_Click, &form.optFirefans},
+        {&form.chkUnitsecurityzone, &frmDisplay::chkUnitsecurityzone_Click, &form.optUSZ}};
+    for (const bool on : {true, false, true})
+        for (const auto& [check, click, options] : groups) {
+            check->value = on;
+            (form.*click)();
+            EXPECT_TRUE((*options)[0].enabled == on && (*options)[1].enabled == on);
+            EXPECT_EQ(form.chkWayptData.enabled, form.chkShowWaypoints.value);
+        }
 }
 
 TEST_F(DisplayForm, UnitsEntryFlipsTheOptionAndTheMarkers) {
@@ -84,7 +92,7 @@ TEST_F(DisplayForm, UnitsEntryFlipsTheOptionAndTheMarkers) {
     EXPECT_TRUE(campaign.gDispUnits && main.mnuShowHideUnits.checked && marker(*unit).visible);
 }
 
-TEST_F(DisplayForm, EachBoxOfTheDisplayFormGoesToItsOwnOption) {
+TEST_F(DisplayForm, EachBoxGoesToItsOwnOption) {
     auto& form = program.form<frmDisplay>();
     const std::vector<std::pair<CheckBox*, bool DisplayOptions::*>> boxes{
         {&form.chkMmLabels, &DisplayOptions::gDispLabels},
@@ -114,15 +122,6 @@ TEST_F(DisplayForm, EachBoxOfTheDisplayFormGoesToItsOwnOption) {
         for (const auto& [other, other_option] : boxes)
             EXPECT_EQ(campaign.*other_option, other_option == option);
     }
-}
-
-TEST_F(DisplayForm, ChecksOffDisableTheirOptions) {
-    auto& form = program.form<frmDisplay>();
-    form.chkShowFirefans.value = form.chkUnitsecurityzone.value = false;
-    form.chkShowFirefans_Click();
-    form.chkUnitsecurityzone_Click();
-    EXPECT_FALSE(form.optFirefans[0].enabled || form.optFirefans[1].enabled || form.optUSZ[0].enabled ||
-                 form.optUSZ[1].enabled);
 }
 
 TEST_F(DisplayForm, UnitsEntryRepaints) {
@@ -156,7 +155,7 @@ TEST_F(DisplayForm, OptionsThatNothingReadsChangeNothing) {
     EXPECT_TRUE(main.lblUser(1).visible && main.shpShape(1).visible && main.lblShapeLabel(1).visible);
 }
 
-TEST_F(DisplayForm, EachChoiceOfTheDisplayFormGoesToItsOwnOptions) {
+TEST_F(DisplayForm, EachChoiceGoesToItsOwnOptions) {
     auto& form = program.form<frmDisplay>();
     struct Choice {
         std::array<OptionButton, 2>* options;
@@ -187,18 +186,6 @@ TEST_F(DisplayForm, OptionsStartEnabledAsTheirChecks) {
         EXPECT_FALSE(form.optFirefans[i].enabled || form.optUSZ[i].enabled);
     }
     EXPECT_TRUE(form.chkWayptData.enabled);
-}
-
-TEST_F(DisplayForm, ChecksOnEnableTheirOptionsAgain) {
-    auto& form = program.form<frmDisplay>();
-    for (const bool on : {false, true}) {
-        form.chkShowAOO.value = form.chkShowWaypoints.value = on;
-        form.chkShowAOO_Click();
-        form.chkShowWaypoints_Click();
-        for (const std::size_t i : {0, 1})
-            EXPECT_TRUE(form.optAOO[i].enabled == on && form.optWaypt[i].enabled == on);
-        EXPECT_EQ(form.chkWayptData.enabled, on);
-    }
 }
 
 TEST_F(DisplayForm, AllSelectedMeansAllUnitsAndAllClearedNeither) {
