@@ -130,6 +130,7 @@ struct Supplies {
     std::int64_t current;
 };
 
+/// Answers the supplies: they are shown only once the place is known.
 Supplies show_accumulated(Program& program, const oUnits& unit, const Subordinates& list) {
     UnitInfoPanel& panel = program.main;
     Losses losses;
