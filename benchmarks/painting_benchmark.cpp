@@ -11,6 +11,7 @@
 #include "program/frmStart.h"
 #include "program/paint_order.h"
 #include "program/press_order.h"
+#include "tools/support/paint_watch.h"
 #include "tools/support/spread_campaign.h"
 #include "widgets/map_image.h"
 
@@ -26,7 +27,6 @@
 #include <cstdio>
 #include <map>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -182,17 +182,6 @@ void drag_step(benchmark::State& state) {
     send_mouse(s, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
     clear_selection(s.program);
 }
-
-/// Whether a widget was painted since it was last asked.
-struct PaintWatch : QObject {
-    explicit PaintWatch(QWidget* widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject* /*widget*/, QEvent* event) override {
-        painted = painted || event->type() == QEvent::Paint;
-        return false;
-    }
-    bool was_painted() { return std::exchange(painted, false); }
-    bool painted = false;
-};
 
 void press_to_panel(benchmark::State& state) {
     Scene& s = unit_scene(state.range(0) != 10000);

@@ -3,6 +3,7 @@
 #include "core/identity.h"
 #include "mapview/map_accessible_window.h"
 #include "mapview/unit_info.h"
+#include "tools/support/paint_watch.h"
 
 #include <QAccessible>
 #include <QCloseEvent>
@@ -20,20 +21,6 @@
 #include <array>
 #include <set>
 #include <utility>
-
-namespace {
-
-/// Whether a widget was painted.
-struct PaintWatch : QObject {
-    explicit PaintWatch(QWidget* widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject* /*widget*/, QEvent* event) override {
-        painted = painted || event->type() == QEvent::Paint;
-        return false;
-    }
-    bool painted = false;
-};
-
-} // namespace
 
 TEST_F(Mouse, MessageDuringAPressEndsTheDragThatItBegan) {
     first->children->add(std::make_shared<oChildren>(oChildren{"{gone}", ""}), "{gone}");
@@ -129,7 +116,7 @@ TEST_F(Mouse, ScratchLinesAreDrawnAnewWhenThePointerMovesOverAMarkerInTheTray) {
     PaintWatch watch(map);
     send_to(tray, QEvent::MouseMove, QPointF(60, 62), Qt::NoButton, Qt::NoButton);
     QApplication::processEvents();
-    EXPECT_TRUE(watch.painted);
+    EXPECT_TRUE(watch.was_painted());
     EXPECT_EQ(main().linTempLine.x2, 60);
 }
 
