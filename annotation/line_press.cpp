@@ -215,9 +215,7 @@ Outcome press_draws_line(Program& program, const MapPress& press) {
     if (press.button != left_button) return Outcome::done;
     return ends_press(program, " when drawing lines.", [&] {
         add_line_point(program, press.x, press.y);
-        if (main.optSingleLine.value && main.line_ended)
-            main.linTempLine.visible = false;
-        else
-            start_scratch_line(main.linTempLine, press);
+        const bool finished = main.optSingleLine.value && main.line_ended;
+        if (!finished) start_scratch_line(main.linTempLine, press);
     });
 }

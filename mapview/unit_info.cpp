@@ -242,7 +242,8 @@ void lstUIchildunits_DblClick(Program& program) {
 void cmdSelectHQ_Click(Program& program) {
     trap(program, " when displaying unit info.", [&] {
         if (program.main.lblUIparentname.caption.empty() || !program.campaign.curUnit) return;
-        show_and_select(program, std::string(program.campaign.curUnit->parent_ID));
+        const std::string id = program.campaign.curUnit->parent_ID; // a copy: another unit comes in hand
+        show_and_select(program, id);
     });
 }
 

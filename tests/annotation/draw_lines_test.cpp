@@ -250,7 +250,6 @@ TEST_F(Drawing, PolygonInHandShowsItsSidesFromTheSecondPointOn) {
     program.main.drawing_polygon = true;
     EXPECT_FALSE(polygon_is_being_drawn(program)) << "before its first point there is none";
     program.campaign.curPolygon = std::make_shared<oPolygons>();
-    program.main.drawing_polygon = true;
     program.main.picPolygonBordercolor.back_colour = 44;
     program.main.scrlPolygonBorderthickness.value = 6;
     add_vertices(program.campaign.curPolygon->coordinates, {{0, 0}});
